@@ -1,0 +1,29 @@
+# SPDX-FileCopyrightText: 2026 the tarnwidgets developers
+# SPDX-License-Identifier: MIT
+
+# What every target of this project is compiled with.
+function(tarn_target_defaults target)
+    set_target_properties(${target} PROPERTIES
+        AUTOMOC ON
+        CXX_STANDARD 17
+        CXX_STANDARD_REQUIRED ON
+        CXX_EXTENSIONS OFF
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic)
+    if(TARN_WARNINGS_AS_ERRORS)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
+endfunction()
+
+# The strictest settings that an application may use; the libraries keep to them, so that their headers do.
+function(tarn_strict_qt target)
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_KEYWORDS
+        QT_NO_CAST_FROM_ASCII
+        QT_NO_CAST_TO_ASCII
+        QT_NO_CAST_FROM_BYTEARRAY
+        QT_NO_URL_CAST_FROM_STRING
+        QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+        QT_NO_FOREACH)
+endfunction()
