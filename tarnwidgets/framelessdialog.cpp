@@ -1,0 +1,450 @@
+// SPDX-FileCopyrightText: 2026 the tarnwidgets developers
+// SPDX-License-Identifier: MIT
+
+#include "framelessdialog.h"
+
+#include "framelesshelper.h"
+#include "frameline.h"
+#include "titlebar.h"
+#include "toplevelwindow_p.h"
+
+#include <QEvent>
+#include <QFrame>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <cmath>
+
+namespace Tarn::Widgets {
+
+namespace {
+
+// Indices of title buttons.
+constexpr int LogoButton = 0;
+constexpr int MinButton = 1;
+constexpr int MaxButton = 2;
+constexpr int RestoreButton = 3;
+constexpr int CloseButton = 4;
+
+constexpr int ContentIndex = 2; // in the main layout: below the title bar and the upper line
+constexpr int SeparatorHeight = 2;
+constexpr int BottomBarHeight =
+    54; // the buttons, their margins and the lines, as noCentralHeight() counts them
+constexpr int ShadowDepth = 10;
+
+QSize primaryScreenSize()
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen ? screen->availableGeometry().size() : QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+}
+
+} // namespace
+
+class FramelessDialogPrivate
+{
+public:
+    explicit FramelessDialogPrivate(FramelessDialog *q)
+        : m_platformWindow(q)
+    { }
+
+    QFrame *m_pUpperLine = nullptr;
+    QFrame *m_pLowerLine = nullptr;
+    QPointer<QWidget> m_pContentHolder;
+    QPointer<QLayout> m_pContentLayout;
+    FramelessHelper *m_pHelper = nullptr;
+    QString m_buttonTexts[3]; // of OK, Cancel and Apply, as the dialog itself set them last
+    TopLevelWindow m_platformWindow;
+};
+
+QColor FramelessDialog::m_defaultBackgroundColor(69, 69, 69);
+QColor FramelessDialog::m_defaultBorderColor(56, 56, 56);
+QColor FramelessDialog::m_defaultSpecialBackgroungColor(34, 33, 38);
+QColor FramelessDialog::m_defaultNormalBackgroungColor(56, 58, 63);
+
+FramelessDialog::FramelessDialog(QWidget *parent, Qt::WindowFlags flags)
+    : QDialog(parent, flags | Qt::BypassWindowManagerHint)
+    , d(std::make_unique<FramelessDialogPrivate>(this))
+{
+    createWidgets();
+    createConnects();
+    setMinButtonVisible(false);
+    setMaxButtonVisible(false);
+}
+
+FramelessDialog::~FramelessDialog() = default;
+
+void FramelessDialog::createWidgets()
+{
+    setWindowFlag(Qt::FramelessWindowHint);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setProperty("isFramelessDialog", true);
+
+    m_pTitleBar = new TitleBar(this);
+    m_pTitleBar->setProperty("isFramelessDialogTitleBar", true);
+    m_pTitleBar->setTitleAlignment(Qt::AlignCenter);
+    setMaximumSize(primaryScreenSize());
+
+    createMainLayout();
+
+    d->m_pHelper = new FramelessHelper(this);
+    d->m_pHelper->activateOn(this);
+    d->m_pHelper->setTitleHeight(uint(m_pTitleBar->height()));
+}
+
+void FramelessDialog::createMainLayout()
+{
+    auto *titleLayout = new QHBoxLayout;
+    titleLayout->setSpacing(0);
+    titleLayout->setContentsMargins(1, 0, 1, 0);
+    titleLayout->addWidget(m_pTitleBar);
+
+    const QString separator = QStringLiteral("isBackgroundSeparator");
+    d->m_pUpperLine = FrameLine::createHorizontalLine(separator, this, SeparatorHeight, 0, 0);
+    d->m_pLowerLine = FrameLine::createHorizontalLine(separator, this, SeparatorHeight, 0, 0);
+    createBottomWidget();
+
+    m_pMainLayout = new QVBoxLayout(this);
+    m_pMainLayout->setSpacing(0);
+    m_pMainLayout->setContentsMargins(1, 1, 1, 1);
+    m_pMainLayout->addLayout(titleLayout);
+    m_pMainLayout->addWidget(d->m_pUpperLine);
+    m_pMainLayout->addWidget(d->m_pLowerLine);
+    m_pMainLayout->addWidget(m_pBottomWidget);
+}
+
+void FramelessDialog::createBottomWidget()
+{
+    m_pBottomWidget = new QWidget(this);
+    m_pBottomWidget->setProperty("isFramelessDialogBottomWidget", true);
+    m_pOKButton = new QPushButton(m_pBottomWidget);
+    m_pOKButton->setDefault(true);
+    m_pCancelButton = new QPushButton(m_pBottomWidget);
+    m_pApplyButton = new QPushButton(m_pBottomWidget);
+    m_pApplyButton->hide();
+    retranslateButtons();
+
+    m_pBottomLayout = new QHBoxLayout(m_pBottomWidget);
+    m_pBottomLayout->setSpacing(20);
+    m_pBottomLayout->setContentsMargins(20, 10, 20, 10);
+    m_pBottomLayout->addStretch();
+    m_pBottomLayout->addWidget(m_pOKButton);
+    m_pBottomLayout->addWidget(m_pCancelButton);
+    m_pBottomLayout->addWidget(m_pApplyButton);
+}
+
+void FramelessDialog::retranslateButtons()
+{
+    QPushButton *const buttons[] = {m_pOKButton, m_pCancelButton, m_pApplyButton};
+    const QString texts[] = {tr("OK"), tr("Cancel"), tr("Apply")};
+    for (int i = 0; i < 3; ++i) {
+        // A text that somebody else set stays.
+        if (buttons[i]->text() == d->m_buttonTexts[i])
+            buttons[i]->setText(texts[i]);
+        d->m_buttonTexts[i] = texts[i];
+    }
+}
+
+void FramelessDialog::createConnects()
+{
+    connect(m_pTitleBar, &TitleBar::closed, this, &FramelessDialog::close);
+    connect(m_pTitleBar, &TitleBar::minimuned, this, &FramelessDialog::showMinimized);
+    connect(m_pTitleBar, &TitleBar::maximumed, this, &FramelessDialog::swithMaxNormal);
+    connect(m_pTitleBar, &TitleBar::normaled, this, &FramelessDialog::swithMaxNormal);
+    connect(m_pOKButton, &QPushButton::clicked, this, &FramelessDialog::accept);
+    connect(m_pCancelButton, &QPushButton::clicked, this, &FramelessDialog::reject);
+}
+
+QWidget *FramelessDialog::getContentHolder()
+{
+    if (!d->m_pContentHolder) {
+        d->m_pContentHolder = new QWidget(this);
+        d->m_pContentHolder->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        m_pMainLayout->insertWidget(ContentIndex, d->m_pContentHolder);
+    }
+    return d->m_pContentHolder;
+}
+
+void FramelessDialog::setLayout(QLayout *layout)
+{
+    if (!layout || layout == d->m_pContentLayout)
+        return;
+    // A layout made with the dialog as its parent found that place taken, and is free for this one.
+    if (layout->parent() == this && layout != m_pMainLayout)
+        layout->setParent(nullptr);
+    if (layout->parent()) {
+        qWarning("FramelessDialog::setLayout: the layout belongs to another widget or layout");
+        return;
+    }
+    layout->setContentsMargins(layout->contentsMargins() + QMargins(1, 0, 1, 0));
+    m_pMainLayout->insertLayout(ContentIndex, layout);
+    d->m_pContentLayout = layout;
+}
+
+QLayout *FramelessDialog::layout() const
+{
+    if (d->m_pContentLayout)
+        return d->m_pContentLayout;
+    return d->m_pContentHolder ? d->m_pContentHolder->layout() : nullptr;
+}
+
+QVBoxLayout *FramelessDialog::getMainLayout() const
+{
+    return m_pMainLayout;
+}
+
+int FramelessDialog::noCentralHeight() const
+{
+    return m_pTitleBar->height() + BottomBarHeight;
+}
+
+void FramelessDialog::setWindowTitle(const QString &title)
+{
+    m_pTitleBar->setTitle(title);
+    d->m_platformWindow.setTitle(title);
+}
+
+QString FramelessDialog::windowTitle() const
+{
+    return m_pTitleBar->title();
+}
+
+void FramelessDialog::setWindowTitleAlignment(Qt::Alignment alignment)
+{
+    m_pTitleBar->setTitleAlignment(alignment);
+}
+
+void FramelessDialog::setWindowIcon(const QIcon &icon)
+{
+    m_pTitleBar->setTitleButtonIcon(LogoButton, icon);
+    QDialog::setWindowIcon(icon);
+}
+
+QIcon FramelessDialog::windowIcon() const
+{
+    return m_pTitleBar->titleButtonIcon(LogoButton);
+}
+
+void FramelessDialog::setTitleButtonIcon(const int &index, const QIcon &icon)
+{
+    m_pTitleBar->setTitleButtonIcon(index, icon);
+}
+
+void FramelessDialog::appendExtendTitleButton(QAction *action, QSize buttonSize, QSize iconSize)
+{
+    m_pTitleBar->appendExtendTitleButton(action, buttonSize, iconSize);
+}
+
+void FramelessDialog::insertExtendTitleButton(int index, QAction *action, QSize buttonSize, QSize iconSize)
+{
+    m_pTitleBar->insertExtendTitleButton(index, action, buttonSize, iconSize);
+}
+
+void FramelessDialog::setMinButtonVisible(bool visible)
+{
+    m_pTitleBar->setTitleButtonVisible(MinButton, visible);
+}
+
+void FramelessDialog::setMaxButtonVisible(bool visible)
+{
+    m_pTitleBar->setTitleButtonVisible(MaxButton, visible);
+    m_pTitleBar->setTitleButtonVisible(RestoreButton, visible);
+    if (visible)
+        m_pTitleBar->setMaximized(isMaximized());
+    else
+        setDialogResizable(false);
+}
+
+void FramelessDialog::setCloseButtonVisible(bool visible)
+{
+    m_pTitleBar->setTitleButtonVisible(CloseButton, visible);
+}
+
+bool FramelessDialog::getCloseButtonVisible() const
+{
+    return m_pTitleBar->isTitleButtonVisible(CloseButton);
+}
+
+void FramelessDialog::setOKButtonVisible(bool visible)
+{
+    m_pOKButton->setVisible(visible);
+}
+
+void FramelessDialog::setCancelButtonVisible(bool visible)
+{
+    m_pCancelButton->setVisible(visible);
+}
+
+void FramelessDialog::setApplyButtonVisible(bool visible)
+{
+    m_pApplyButton->setVisible(visible);
+}
+
+void FramelessDialog::setOKButtonDefault(bool isDefault)
+{
+    m_pOKButton->setDefault(isDefault);
+}
+
+void FramelessDialog::setBottomBarVisible(bool visible)
+{
+    d->m_pLowerLine->setVisible(visible);
+    m_pBottomWidget->setVisible(visible);
+}
+
+void FramelessDialog::setHorizontalLineHeight(int height)
+{
+    d->m_pUpperLine->setFixedHeight(height);
+    d->m_pLowerLine->setFixedHeight(height);
+}
+
+void FramelessDialog::setDialogMovable(bool movable)
+{
+    d->m_pHelper->setWidgetMovable(movable);
+}
+
+void FramelessDialog::setDialogtMovable(bool movable)
+{
+    setDialogMovable(movable);
+}
+
+void FramelessDialog::setDialogResizable(bool resizable)
+{
+    d->m_pHelper->setWidgetResizable(resizable);
+}
+
+void FramelessDialog::setRubberBandOnMove(bool on)
+{
+    d->m_pHelper->setRubberBandOnMove(on);
+}
+
+void FramelessDialog::setRubberBandOnResize(bool on)
+{
+    d->m_pHelper->setRubberBandOnResize(on);
+}
+
+void FramelessDialog::reTranslateUI() { }
+
+void FramelessDialog::swithMaxNormal()
+{
+    if (isMaximized())
+        showNormal();
+    else
+        showMaximized();
+}
+
+void FramelessDialog::show()
+{
+    QDialog::show();
+    d->m_platformWindow.placeByState();
+    m_pTitleBar->setMaximized(isMaximized());
+}
+
+void FramelessDialog::showMinimized()
+{
+    QDialog::showMinimized();
+}
+
+void FramelessDialog::showMaximized()
+{
+    QDialog::showMaximized();
+    d->m_platformWindow.placeByState();
+    m_pTitleBar->setMaximized(true);
+}
+
+void FramelessDialog::showFullScreen()
+{
+    QDialog::showFullScreen();
+    d->m_platformWindow.placeByState();
+}
+
+void FramelessDialog::showNormal()
+{
+    QDialog::showNormal();
+    d->m_platformWindow.placeByState();
+    m_pTitleBar->setMaximized(false);
+}
+
+void FramelessDialog::open()
+{
+    QDialog::open();
+}
+
+int FramelessDialog::exec()
+{
+    return QDialog::exec();
+}
+
+bool FramelessDialog::event(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::WinIdChange:
+        d->m_platformWindow.windowCreated();
+        if (windowHandle())
+            windowHandle()->installEventFilter(this);
+        break;
+    case QEvent::Show:
+        if (!event->spontaneous() && !testAttribute(Qt::WA_ShowWithoutActivating))
+            d->m_platformWindow.takeKeyboard();
+        break;
+    case QEvent::Hide:
+        if (!event->spontaneous())
+            d->m_platformWindow.returnKeyboard();
+        break;
+    default:
+        break;
+    }
+    return QDialog::event(event);
+}
+
+void FramelessDialog::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslateButtons();
+        reTranslateUI();
+    }
+}
+
+bool FramelessDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    // No window manager gives the dialog the keyboard when the user presses in it or in any of its children.
+    const QEvent::Type type = event->type();
+    if ((type == QEvent::MouseButtonPress || type == QEvent::TouchBegin) && watched == windowHandle())
+        d->m_platformWindow.takeKeyboard();
+    return QDialog::eventFilter(watched, event);
+}
+
+void FramelessDialog::paintEvent(QPaintEvent *event)
+{
+    drawSolidBorder(event);
+}
+
+void FramelessDialog::drawSolidBorder(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(QRectF(1, 1, width() - 2, height() - 2), m_defaultBackgroundColor);
+    painter.setPen(QPen(m_defaultBorderColor, 1));
+    painter.drawRect(QRectF(0, 0, width() - 1, height() - 1));
+}
+
+void FramelessDialog::drawShadowBorder(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(QRectF(rect()).adjusted(ShadowDepth, ShadowDepth, -ShadowDepth, -ShadowDepth),
+                     m_defaultBackgroundColor);
+    QColor shadow(Qt::black);
+    for (int ring = 0; ring < ShadowDepth; ++ring) {
+        const qreal inset = ShadowDepth - ring;
+        // Fades from 150 next to the content to 0 at the outer edge.
+        shadow.setAlpha(int(150 - std::sqrt(ring) * 50));
+        painter.setPen(shadow);
+        painter.drawRect(QRectF(inset, inset, width() - 2 * inset, height() - 2 * inset));
+    }
+}
+
+} // namespace Tarn::Widgets

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 the tarnwidgets developers
+// SPDX-License-Identifier: MIT
+
+// Not part of the API: what FramelessWindow and FramelessDialog have in common towards the platform.
+
+#ifndef TARN_WIDGETS_TOPLEVELWINDOW_P_H
+#define TARN_WIDGETS_TOPLEVELWINDOW_P_H
+
+#include <QIcon>
+#include <QPointer>
+#include <QRect>
+#include <QString>
+#include <QWindow>
+
+class QWidget;
+
+namespace Tarn::Widgets {
+
+/*!
+ * The platform's side of a top-level widget that draws its own frame: what the
+ * title bar shows is told to task switchers and screen readers, states that the
+ * platform only reports get their geometry, and a window that the window
+ * manager does not look after gets the keyboard.
+ */
+class TopLevelWindow
+{
+public:
+    explicit TopLevelWindow(QWidget *widget);
+
+    void setTitle(const QString &title);
+    void setIcon(const QIcon &icon);
+
+    /*! To be called when the widget got a native window: tells it what earlier ones knew. */
+    void windowCreated();
+
+    /*!
+     * To be called when the widget was made maximised, full screen or normal:
+     * gives it the geometry of its state where the platform did not.
+     */
+    void placeByState();
+
+    /*! Asks for the keyboard, unless the window has it or must not have it. */
+    void takeKeyboard();
+
+    /*! Gives the keyboard back to the window that had it before takeKeyboard(). */
+    void returnKeyboard();
+
+private:
+    QRect stateGeometry() const;
+
+    QWidget *const m_widget;
+    QString m_title;
+    QIcon m_icon;
+    QRect m_normalGeometry; // valid while the state is maximised or full screen
+    QSize m_maximumSize; // likewise: what the state's geometry may exceed
+    QPointer<QWindow> m_formerFocusWindow;
+};
+
+} // namespace Tarn::Widgets
+
+#endif
