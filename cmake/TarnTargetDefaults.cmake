@@ -27,3 +27,10 @@ function(tarn_strict_qt target)
         QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
         QT_NO_FOREACH)
 endfunction()
+
+# For our shared libraries: nothing undefined, and nothing visible but our own exported classes.
+function(tarn_link_strictly target)
+    set(exports ${PROJECT_SOURCE_DIR}/cmake/exports.map)
+    target_link_options(${target} PRIVATE -Wl,--no-undefined -Wl,--version-script=${exports})
+    set_target_properties(${target} PROPERTIES LINK_DEPENDS ${exports})
+endfunction()
