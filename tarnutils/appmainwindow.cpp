@@ -7,7 +7,8 @@ namespace Tarn::Utils {
 
 AppMainWindow::AppMainWindow(QWidget *parent)
     : QMainWindow(parent)
-{ }
+{
+}
 
 AppMainWindow::~AppMainWindow() = default;
 

@@ -49,7 +49,8 @@ class FramelessDialogPrivate
 public:
     explicit FramelessDialogPrivate(FramelessDialog *q)
         : m_platformWindow(q)
-    { }
+    {
+    }
 
     QFrame *m_pUpperLine = nullptr;
     QFrame *m_pLowerLine = nullptr;
@@ -325,7 +326,7 @@ void FramelessDialog::setRubberBandOnResize(bool on)
     d->m_pHelper->setRubberBandOnResize(on);
 }
 
-void FramelessDialog::reTranslateUI() { }
+void FramelessDialog::reTranslateUI() {}
 
 void FramelessDialog::swithMaxNormal()
 {
@@ -381,9 +382,7 @@ bool FramelessDialog::event(QEvent *event)
 {
     switch (event->type()) {
     case QEvent::WinIdChange:
-        d->m_platformWindow.windowCreated();
-        if (windowHandle())
-            windowHandle()->installEventFilter(this);
+        d->m_platformWindow.nativeWindowChanged();
         break;
     case QEvent::Show:
         if (!event->spontaneous() && !testAttribute(Qt::WA_ShowWithoutActivating))
@@ -410,10 +409,6 @@ void FramelessDialog::changeEvent(QEvent *event)
 
 bool FramelessDialog::eventFilter(QObject *watched, QEvent *event)
 {
-    // No window manager gives the dialog the keyboard when the user presses in it or in any of its children.
-    const QEvent::Type type = event->type();
-    if ((type == QEvent::MouseButtonPress || type == QEvent::TouchBegin) && watched == windowHandle())
-        d->m_platformWindow.takeKeyboard();
     return QDialog::eventFilter(watched, event);
 }
 

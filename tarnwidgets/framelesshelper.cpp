@@ -306,7 +306,8 @@ void FramelessHelperPrivate::updateRubberBands()
 FramelessHelper::FramelessHelper(QObject *parent)
     : QObject(parent)
     , d(std::make_unique<FramelessHelperPrivate>())
-{ }
+{
+}
 
 FramelessHelper::~FramelessHelper()
 {

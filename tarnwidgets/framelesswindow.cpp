@@ -34,7 +34,8 @@ public:
     FramelessWindowPrivate(FramelessWindow *q, bool placement)
         : m_platformWindow(q)
         , m_bPlacement(placement)
-    { }
+    {
+    }
 
     ~FramelessWindowPrivate()
     {
@@ -60,7 +61,8 @@ public:
 
 FramelessWindow::FramelessWindow(QWidget *parent)
     : FramelessWindow(false, parent)
-{ }
+{
+}
 
 FramelessWindow::FramelessWindow(bool placement, QWidget *parent)
     : AppMainWindow(parent)
@@ -215,7 +217,7 @@ void FramelessWindow::swithMaxNormal()
 bool FramelessWindow::event(QEvent *event)
 {
     if (event->type() == QEvent::WinIdChange)
-        d->m_platformWindow.windowCreated();
+        d->m_platformWindow.nativeWindowChanged();
     return AppMainWindow::event(event);
 }
 

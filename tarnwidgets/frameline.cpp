@@ -23,7 +23,8 @@ QFrame *createLine(const QString &propertyName, QWidget *parent, const uint &lin
 
 FrameLine::FrameLine(QObject *parent)
     : QObject(parent)
-{ }
+{
+}
 
 FrameLine::~FrameLine() = default;
 

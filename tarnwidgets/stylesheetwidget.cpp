@@ -11,7 +11,8 @@ namespace Tarn::Widgets {
 
 StyleSheetWidget::StyleSheetWidget(QWidget *parent)
     : QWidget(parent)
-{ }
+{
+}
 
 StyleSheetWidget::~StyleSheetWidget() = default;
 

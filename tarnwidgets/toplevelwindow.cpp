@@ -3,15 +3,29 @@
 
 #include "toplevelwindow_p.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
 
 namespace Tarn::Widgets {
 
+namespace {
+
+/* There the compositor alone decides where windows are and which of them has the keyboard. */
+bool isWayland()
+{
+    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
+} // namespace
+
 TopLevelWindow::TopLevelWindow(QWidget *widget)
     : m_widget(widget)
-{ }
+{
+}
+
+TopLevelWindow::~TopLevelWindow() = default;
 
 void TopLevelWindow::setTitle(const QString &title)
 {
@@ -30,11 +44,12 @@ void TopLevelWindow::setIcon(const QIcon &icon)
         window->setIcon(icon);
 }
 
-void TopLevelWindow::windowCreated()
+void TopLevelWindow::nativeWindowChanged()
 {
     QWindow *window = m_widget->windowHandle();
     if (!window)
         return;
+    window->installEventFilter(this);
     if (!m_title.isEmpty())
         window->setTitle(m_title);
     if (!m_icon.isNull())
@@ -45,18 +60,14 @@ void TopLevelWindow::placeByState()
 {
     const bool isLarge = m_widget->isMaximized() || m_widget->isFullScreen();
     const bool wasLarge = m_normalGeometry.isValid();
-    // A Wayland compositor alone decides where windows are.
-    if ((!isLarge && !wasLarge) || QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+    if ((!isLarge && !wasLarge) || isWayland())
         return;
-    if (isLarge && !wasLarge) {
+    if (isLarge && !wasLarge)
         m_normalGeometry = m_widget->normalGeometry();
-        m_maximumSize = m_widget->maximumSize();
-    }
-
+    // The native window's geometry: QWidget::setGeometry() would end the state, and keep to the maximum size.
     const QRect geometry = stateGeometry();
-    m_widget->setMaximumSize(isLarge ? m_maximumSize.expandedTo(geometry.size()) : m_maximumSize);
     if (m_widget->windowHandle()->geometry() != geometry)
-        m_widget->setGeometry(geometry);
+        m_widget->windowHandle()->setGeometry(geometry);
     if (!isLarge)
         m_normalGeometry = QRect();
 }
@@ -74,7 +85,8 @@ void TopLevelWindow::takeKeyboard()
 {
     QWindow *window = m_widget->windowHandle();
     QWindow *focusWindow = QGuiApplication::focusWindow();
-    if (!window || window == focusWindow || window->flags().testFlag(Qt::WindowDoesNotAcceptFocus))
+    const bool mayTake = window && !window->flags().testFlag(Qt::WindowDoesNotAcceptFocus) && !isWayland();
+    if (!mayTake || window == focusWindow)
         return;
     m_formerFocusWindow = focusWindow;
     window->requestActivate();
@@ -82,10 +94,26 @@ void TopLevelWindow::takeKeyboard()
 
 void TopLevelWindow::returnKeyboard()
 {
-    const bool hadFocus = QGuiApplication::focusWindow() == m_widget->windowHandle();
-    if (hadFocus && m_formerFocusWindow && m_formerFocusWindow->isVisible())
-        m_formerFocusWindow->requestActivate();
+    QWindow *former = formerFocusWindow();
+    if (QGuiApplication::focusWindow() == m_widget->windowHandle() && former && former->isVisible()
+        && !isWayland())
+        former->requestActivate();
     m_formerFocusWindow.clear();
+}
+
+QWindow *TopLevelWindow::formerFocusWindow() const
+{
+    if (m_formerFocusWindow)
+        return m_formerFocusWindow;
+    const QWidget *parent = m_widget->parentWidget();
+    return parent ? parent->window()->windowHandle() : nullptr;
+}
+
+bool TopLevelWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin)
+        takeKeyboard();
+    return QObject::eventFilter(watched, event);
 }
 
 } // namespace Tarn::Widgets

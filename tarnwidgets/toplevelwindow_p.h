@@ -19,19 +19,21 @@ namespace Tarn::Widgets {
 /*!
  * The platform's side of a top-level widget that draws its own frame: what the
  * title bar shows is told to task switchers and screen readers, states that the
- * platform only reports get their geometry, and a window that the window
- * manager does not look after gets the keyboard.
+ * platform only reports get their geometry, and a press brings the keyboard
+ * where no window manager does.
  */
-class TopLevelWindow
+class TopLevelWindow : public QObject
 {
 public:
     explicit TopLevelWindow(QWidget *widget);
+    ~TopLevelWindow() override;
 
     void setTitle(const QString &title);
     void setIcon(const QIcon &icon);
 
-    /*! To be called when the widget got a native window: tells it what earlier ones knew. */
-    void windowCreated();
+    /*! To be called when the widget's native window came or went: tells a new one what its predecessor knew.
+     */
+    void nativeWindowChanged();
 
     /*!
      * To be called when the widget was made maximised, full screen or normal:
@@ -42,17 +44,20 @@ public:
     /*! Asks for the keyboard, unless the window has it or must not have it. */
     void takeKeyboard();
 
-    /*! Gives the keyboard back to the window that had it before takeKeyboard(). */
+    /*! Gives the keyboard back to the window that had it before takeKeyboard(), else to the parent's. */
     void returnKeyboard();
+
+    /*! Sees the presses in the native window, those in child widgets among them. */
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QRect stateGeometry() const;
+    QWindow *formerFocusWindow() const;
 
     QWidget *const m_widget;
     QString m_title;
     QIcon m_icon;
     QRect m_normalGeometry; // valid while the state is maximised or full screen
-    QSize m_maximumSize; // likewise: what the state's geometry may exceed
     QPointer<QWindow> m_formerFocusWindow;
 };
 
