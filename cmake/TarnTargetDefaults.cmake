@@ -34,3 +34,16 @@ function(tarn_link_strictly target)
     target_link_options(${target} PRIVATE -Wl,--no-undefined -Wl,--version-script=${exports})
     set_target_properties(${target} PROPERTIES LINK_DEPENDS ${exports})
 endfunction()
+
+# Lets the headers of the current directory be found as <directory/x.h> and as <x.h>. The first form goes through a
+# root that holds this directory alone: in the source tree the stand-in for libtarnutils lies beside it, and would be
+# found where a device's own is asked for.
+function(tarn_header_directories target)
+    set(root ${CMAKE_CURRENT_BINARY_DIR}/include)
+    get_filename_component(name ${CMAKE_CURRENT_SOURCE_DIR} NAME)
+    file(MAKE_DIRECTORY ${root})
+    file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${root}/${name} SYMBOLIC)
+    target_include_directories(${target} PUBLIC
+        $<BUILD_INTERFACE:${root}>
+        $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>)
+endfunction()

@@ -1,0 +1,162 @@
+# SPDX-FileCopyrightText: 2026 the tarnwidgets developers
+# SPDX-License-Identifier: MIT
+
+# The steps of the install tests; STEP names the one to take.
+cmake_minimum_required(VERSION 3.16)
+
+set(here ${CMAKE_CURRENT_LIST_DIR})
+set(prefix ${SCRATCH_DIR}/prefix)
+
+# run(command...): a command that has to succeed.
+function(run)
+    execute_process(COMMAND ${ARGV} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    message("${output}")
+    if(NOT result EQUAL 0)
+        list(JOIN ARGV " " command)
+        message(FATAL_ERROR "failed with ${result}: ${command}")
+    endif()
+endfunction()
+
+# build(source binary option...): configures and builds a CMake project.
+function(build source binary)
+    file(REMOVE_RECURSE ${binary})
+    run(${CMAKE_COMMAND} -S ${source} -B ${binary} -G ${GENERATOR}
+        -DCMAKE_BUILD_TYPE=${CONFIG}
+        -DCMAKE_CXX_COMPILER=${CXX}
+        -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}
+        -DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF
+        ${ARGN})
+    run(${CMAKE_COMMAND} --build ${binary} --config ${CONFIG})
+endfunction()
+
+# install(binary prefix)
+function(install binary prefix)
+    file(REMOVE_RECURSE ${prefix})
+    run(${CMAKE_COMMAND} --install ${binary} --config ${CONFIG} --prefix ${prefix})
+endfunction()
+
+# check_consumer(program utils): the consumer starts and is built on the named utils library.
+function(check_consumer program utils)
+    execute_process(COMMAND ${program} RESULT_VARIABLE result OUTPUT_VARIABLE output)
+    set(expected "Tarn::Widgets::FramelessWindow on Tarn::Utils::AppMainWindow of the ${utils}, ")
+    string(APPEND expected "with Tarn::Widgets::FramelessDialog\n")
+    if(NOT result EQUAL 0 OR NOT output STREQUAL expected)
+        message(FATAL_ERROR "${program} ended with ${result} and said\n${output}instead of\n${expected}")
+    endif()
+endfunction()
+
+# check_same(what actual expected): two lists with the same members.
+function(check_same what actual expected)
+    list(SORT actual)
+    list(SORT expected)
+    if(NOT actual STREQUAL expected)
+        message(FATAL_ERROR "${what}:\n${actual}\ninstead of\n${expected}")
+    endif()
+endfunction()
+
+# Installed in one place and moved to another, so that nothing can depend on where it was installed.
+function(step_tree)
+    install(${PROJECT_BUILD_DIR} ${SCRATCH_DIR}/first-prefix)
+    file(REMOVE_RECURSE ${prefix})
+    file(RENAME ${SCRATCH_DIR}/first-prefix ${prefix})
+endfunction()
+
+function(step_headers)
+    foreach(library IN ITEMS tarnutils tarnwidgets)
+        file(GLOB public RELATIVE ${PROJECT_DIR}/${library} ${PROJECT_DIR}/${library}/*.h)
+        list(FILTER public EXCLUDE REGEX "_p\\.h$")
+        file(GLOB_RECURSE installed RELATIVE ${prefix}/include/${library} ${prefix}/include/${library}/*)
+        check_same("headers of ${library}" "${installed}" "${public}")
+    endforeach()
+endfunction()
+
+function(step_cmake)
+    build(${here}/consumer ${SCRATCH_DIR}/cmake -DCMAKE_PREFIX_PATH=${prefix})
+    check_consumer(${SCRATCH_DIR}/cmake/consumer "stand-in")
+
+    # Told of the one package alone, it finds the other.
+    build(${here}/consumer ${SCRATCH_DIR}/cmake -DTarnWidgets_DIR=${prefix}/${LIBDIR}/cmake/TarnWidgets)
+    check_consumer(${SCRATCH_DIR}/cmake/consumer "stand-in")
+endfunction()
+
+function(step_pkgconfig)
+    build_by_pkgconfig(${SCRATCH_DIR}/pkgconfig ${prefix})
+    set(ENV{LD_LIBRARY_PATH} ${prefix}/${LIBDIR})
+    check_consumer(${SCRATCH_DIR}/pkgconfig/consumer "stand-in")
+endfunction()
+
+# build_by_pkgconfig(binary prefix): one compiler call with what pkg-config says.
+function(build_by_pkgconfig binary prefix)
+    set(ENV{PKG_CONFIG_PATH} ${prefix}/${LIBDIR}/pkgconfig)
+    run(${PKG_CONFIG} --validate tarnwidgets)
+    execute_process(COMMAND ${PKG_CONFIG} --cflags --libs tarnwidgets
+        OUTPUT_VARIABLE flags RESULT_VARIABLE result)
+    if(NOT result EQUAL 0)
+        message(FATAL_ERROR "pkg-config does not know tarnwidgets")
+    endif()
+    separate_arguments(flags UNIX_COMMAND "${flags}")
+    file(REMOVE_RECURSE ${binary})
+    file(MAKE_DIRECTORY ${binary})
+    run(${CXX} -std=c++17 -fPIC ${here}/consumer/main.cpp ${here}/consumer/dialog.cpp ${flags} -o ${binary}/consumer)
+endfunction()
+
+function(step_qmake)
+    set(binary ${SCRATCH_DIR}/qmake)
+    file(REMOVE_RECURSE ${binary})
+    file(MAKE_DIRECTORY ${binary})
+    set(ENV{PKG_CONFIG_PATH} ${prefix}/${LIBDIR}/pkgconfig)
+    run(${CMAKE_COMMAND} -E chdir ${binary} ${QMAKE} ${here}/consumer/consumer.pro QMAKE_CXX=${CXX} QMAKE_LINK=${CXX})
+    run(make -C ${binary})
+    set(ENV{LD_LIBRARY_PATH} ${prefix}/${LIBDIR})
+    check_consumer(${binary}/consumer "stand-in")
+endfunction()
+
+# use_device_utils(scratch with_package): the whole project on a utils library that was there before.
+function(use_device_utils scratch with_package)
+    build(${here}/deviceutils ${scratch}/utils-build -DWITH_PACKAGE=${with_package})
+    install(${scratch}/utils-build ${scratch}/device)
+
+    build(${PROJECT_DIR} ${scratch}/build
+        -DTARN_BUNDLED_UTILS=OFF
+        -DTARN_BUILD_GALLERY=OFF
+        -DBUILD_TESTING=OFF
+        -DCMAKE_PREFIX_PATH=${scratch}/device)
+    install(${scratch}/build ${scratch}/prefix)
+    if(EXISTS ${scratch}/prefix/include/tarnutils)
+        message(FATAL_ERROR "the stand-in was installed although it is switched off")
+    endif()
+
+    set(ENV{CMAKE_PREFIX_PATH} ${scratch}/prefix:${scratch}/device)
+    build(${here}/consumer ${scratch}/cmake)
+    set(ENV{LD_LIBRARY_PATH} ${scratch}/prefix/${LIBDIR}:${scratch}/device/${LIBDIR})
+    check_consumer(${scratch}/cmake/consumer "device")
+
+    build_by_pkgconfig(${scratch}/pkgconfig ${scratch}/prefix)
+    check_consumer(${scratch}/pkgconfig/consumer "device")
+endfunction()
+
+function(step_device_package)
+    use_device_utils(${SCRATCH_DIR}/device-package ON)
+endfunction()
+
+function(step_device_plain)
+    use_device_utils(${SCRATCH_DIR}/device-plain OFF)
+endfunction()
+
+if(STEP STREQUAL "tree")
+    step_tree()
+elseif(STEP STREQUAL "headers")
+    step_headers()
+elseif(STEP STREQUAL "cmake")
+    step_cmake()
+elseif(STEP STREQUAL "pkgconfig")
+    step_pkgconfig()
+elseif(STEP STREQUAL "qmake")
+    step_qmake()
+elseif(STEP STREQUAL "device_package")
+    step_device_package()
+elseif(STEP STREQUAL "device_plain")
+    step_device_plain()
+else()
+    message(FATAL_ERROR "no step ${STEP}")
+endif()
