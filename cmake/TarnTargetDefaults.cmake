@@ -10,7 +10,9 @@ function(tarn_target_defaults target)
         CXX_EXTENSIONS OFF
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON)
-    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic)
+    # Qt's macros with optional arguments, QSKIP among them, are used as Qt documents them.
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic
+        $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>)
     if(TARN_WARNINGS_AS_ERRORS)
         target_compile_options(${target} PRIVATE -Werror)
     endif()
