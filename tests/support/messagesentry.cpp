@@ -89,6 +89,8 @@ void MessageSentry::clear()
 
 void MessageSentry::handle(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
+    if (isPlatformRemark(message))
+        return;
     MessageSentry *sentry = s_current;
     sentry->judge(type, message);
     if (sentry->m_formerSentry == nullptr && sentry->m_formerHandler != nullptr)
@@ -97,8 +99,6 @@ void MessageSentry::handle(QtMsgType type, const QMessageLogContext &context, co
 
 void MessageSentry::judge(QtMsgType type, const QString &message)
 {
-    if (isPlatformRemark(message))
-        return;
     const auto announced =
         std::find_if(m_outstanding.begin(), m_outstanding.end(), [&](const Announcement &candidate) {
             return candidate.type == type && candidate.pattern.match(message).hasMatch();
