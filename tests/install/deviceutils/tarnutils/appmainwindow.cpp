@@ -8,7 +8,8 @@ namespace Tarn::Utils {
 AppMainWindow::AppMainWindow(QWidget *parent, bool device)
     : QMainWindow(parent)
     , m_device(device)
-{ }
+{
+}
 
 AppMainWindow::~AppMainWindow() = default;
 

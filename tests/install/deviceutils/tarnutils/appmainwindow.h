@@ -8,8 +8,8 @@
 
 namespace Tarn::Utils {
 
-// Made like the stand-in's class, though not by the same symbol: what was compiled with the stand-in's header does not
-// link.
+// Made like the stand-in's class, though not by the same symbol: what was compiled with the stand-in's header
+// does not link.
 class AppMainWindow : public QMainWindow
 {
     Q_OBJECT
