@@ -11,7 +11,8 @@ namespace Tarn::Test {
 
 FunctionGuard::FunctionGuard(const QStringList &excused)
     : m_excused(excused)
-{ }
+{
+}
 
 FunctionGuard::~FunctionGuard()
 {

@@ -56,19 +56,19 @@ MessageSentry::~MessageSentry()
     }
     for (const Announcement &missing : qAsConst(m_outstanding)) {
         const QString text = QStringLiteral("This message did not come: %1: %2")
-                                 .arg(QString::fromLatin1(typeName(missing.type)), missing.pattern.pattern());
+                                 .arg(QString::fromLatin1(typeName(missing.type)), missing.text);
         QTest::qFail(qPrintable(text), __FILE__, __LINE__);
     }
 }
 
 void MessageSentry::expect(QtMsgType type, const QString &part)
 {
-    expect(type, QRegularExpression(QRegularExpression::escape(part)));
+    m_outstanding.append({type, QRegularExpression(QRegularExpression::escape(part)), part});
 }
 
 void MessageSentry::expect(QtMsgType type, const QRegularExpression &pattern)
 {
-    m_outstanding.append({type, pattern});
+    m_outstanding.append({type, pattern, pattern.pattern()});
 }
 
 QStringList MessageSentry::unexpected() const

@@ -48,6 +48,7 @@ private:
     {
         QtMsgType type;
         QRegularExpression pattern;
+        QString text; // as announced
     };
 
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &message);

@@ -21,7 +21,8 @@ StateGuard::StateGuard()
     , m_normalBackgroundColor(FramelessDialog::m_defaultNormalBackgroungColor)
     , m_styleSheet(qApp->styleSheet())
     , m_windowIcon(QApplication::windowIcon())
-{ }
+{
+}
 
 StateGuard::~StateGuard()
 {

@@ -1,0 +1,266 @@
+// SPDX-FileCopyrightText: 2026 the tarnwidgets developers
+// SPDX-License-Identifier: MIT
+
+#include "support/events.h"
+#include "support/leftovers.h"
+#include "support/messagesentry.h"
+#include "support/modaldriver.h"
+#include "support/stateguard.h"
+
+#include <QDialog>
+#include <QHoverEvent>
+#include <QMouseEvent>
+#include <QTest>
+#include <tarnwidgets/framelessdialog.h>
+#include <tarnwidgets/framelesshelper.h>
+
+using namespace Tarn::Test;
+using Tarn::Widgets::FramelessDialog;
+using Tarn::Widgets::FramelessHelper;
+
+namespace {
+
+/* Keeps what it got of the last mouse or hover event. */
+class EventKeeper : public QWidget
+{
+public:
+    EventKeeper()
+    {
+        setMouseTracking(true);
+    }
+
+    QPointF local;
+    QPointF global;
+    Qt::MouseButton button = Qt::NoButton;
+    Qt::MouseButtons buttons;
+    QEvent::Type type = QEvent::None;
+
+protected:
+    bool event(QEvent *event) override
+    {
+        if (auto *mouse = dynamic_cast<QMouseEvent *>(event)) {
+            local = mouse->localPos();
+            global = mouse->screenPos();
+            button = mouse->button();
+            buttons = mouse->buttons();
+            type = event->type();
+        } else if (auto *hover = dynamic_cast<QHoverEvent *>(event)) {
+            local = hover->posF();
+            type = event->type();
+        } else if (event->type() == QEvent::Leave) {
+            type = event->type();
+        }
+        return QWidget::event(event);
+    }
+};
+
+void accept(QWidget *dialog)
+{
+    qobject_cast<QDialog *>(dialog)->accept();
+}
+
+} // namespace
+
+// What must make a test fail is tried by support/deliberatefailures.cpp.
+class tst_TestSupport : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void eventsKeepTheirFractions();
+    void eventsCarryTheirButtons();
+
+    void announcedMessageIsInOrder();
+    void otherMessagesAreNoted();
+    void innermostSentryJudges();
+
+    void leftOverWindowsAreNamedUnlessExcused();
+    void deferredDeletionIsDoneFirst();
+
+    void sharedStateIsPutBack();
+
+    void driverActsOnTheDialog();
+    void driverActsOnNestedDialogs();
+    void driverActsOnTheSameDialogAgain();
+};
+
+void tst_TestSupport::eventsKeepTheirFractions()
+{
+    EventKeeper widget;
+    widget.move(100, 200);
+    QCOMPARE(toGlobal(&widget, QPointF(1.5, 2.25)), QPointF(101.5, 202.25));
+
+    mousePress(&widget, QPointF(110.25, 220.75));
+    QCOMPARE(widget.local, QPointF(10.25, 20.75));
+    QCOMPARE(widget.global, QPointF(110.25, 220.75));
+
+    hoverMove(&widget, QPointF(3.5, 4.5));
+    QCOMPARE(widget.type, QEvent::HoverMove);
+    QCOMPARE(widget.local, QPointF(3.5, 4.5));
+
+    sendMouseEvent(&widget, QEvent::MouseButtonPress, QPointF(1, 2), QPointF(3, 4), Qt::LeftButton,
+                   Qt::LeftButton);
+    QCOMPARE(widget.local, QPointF(1, 2));
+    QCOMPARE(widget.global, QPointF(3, 4));
+}
+
+void tst_TestSupport::eventsCarryTheirButtons()
+{
+    EventKeeper widget;
+
+    mousePress(&widget, QPointF(), Qt::RightButton);
+    QCOMPARE(widget.type, QEvent::MouseButtonPress);
+    QCOMPARE(widget.button, Qt::RightButton);
+    QCOMPARE(widget.buttons, Qt::MouseButtons(Qt::RightButton));
+
+    mouseMove(&widget, QPointF());
+    QCOMPARE(widget.type, QEvent::MouseMove);
+    QCOMPARE(widget.button, Qt::NoButton);
+    QCOMPARE(widget.buttons, Qt::MouseButtons(Qt::LeftButton));
+
+    mouseRelease(&widget, QPointF());
+    QCOMPARE(widget.type, QEvent::MouseButtonRelease);
+    QCOMPARE(widget.button, Qt::LeftButton);
+    QCOMPARE(widget.buttons, Qt::MouseButtons());
+
+    mouseDoubleClick(&widget, QPointF());
+    QCOMPARE(widget.type, QEvent::MouseButtonDblClick);
+
+    leave(&widget);
+    QCOMPARE(widget.type, QEvent::Leave);
+}
+
+void tst_TestSupport::announcedMessageIsInOrder()
+{
+    MessageSentry sentry;
+    sentry.expect(QtWarningMsg, QStringLiteral("(half)"));
+    sentry.expect(QtDebugMsg, QRegularExpression(QStringLiteral("^\\d+$")));
+    QVERIFY(!sentry.isSatisfied());
+
+    qWarning("a message (half) announced");
+    QVERIFY(!sentry.isSatisfied());
+    qDebug("17");
+
+    QVERIFY(sentry.isSatisfied());
+    QCOMPARE(sentry.unexpected(), QStringList());
+}
+
+void tst_TestSupport::otherMessagesAreNoted()
+{
+    MessageSentry sentry;
+    sentry.expect(QtWarningMsg, QStringLiteral("announced once"));
+
+    qWarning("announced once");
+    qWarning("announced once");
+    qInfo("not announced");
+    qWarning("This plugin does not support raise()"); // what the platform says is nobody's fault
+
+    QCOMPARE(sentry.unexpected(),
+             QStringList({QStringLiteral("warning: announced once"), QStringLiteral("info: not announced")}));
+    sentry.clear();
+    QCOMPARE(sentry.unexpected(), QStringList());
+}
+
+void tst_TestSupport::innermostSentryJudges()
+{
+    MessageSentry outer;
+    {
+        MessageSentry inner;
+        inner.expect(QtWarningMsg, QStringLiteral("for the inner one"));
+        qWarning("for the inner one");
+        QVERIFY(inner.isSatisfied());
+    }
+    QCOMPARE(outer.unexpected(), QStringList());
+}
+
+void tst_TestSupport::leftOverWindowsAreNamedUnlessExcused()
+{
+    QCOMPARE(leftOverTopLevels(), QStringList());
+    {
+        QDialog dialog;
+        dialog.setObjectName(QStringLiteral("kept"));
+        QDialog ownedByDialog(&dialog);
+        QCOMPARE(leftOverTopLevels(), QStringList(QStringLiteral("QDialog \"kept\"")));
+        QCOMPARE(leftOverTopLevels({QStringLiteral("kept")}), QStringList());
+        QCOMPARE(leftOverTopLevels({QStringLiteral("QDialog")}), QStringList());
+        QCOMPARE(leftOverTopLevels({QStringLiteral("QMessageBox")}).size(), 1);
+    }
+    QCOMPARE(leftOverTopLevels(), QStringList());
+}
+
+void tst_TestSupport::deferredDeletionIsDoneFirst()
+{
+    auto *widget = new QWidget;
+    QCOMPARE(leftOverTopLevels().size(), 1);
+
+    widget->deleteLater();
+
+    QCOMPARE(leftOverTopLevels(), QStringList());
+}
+
+void tst_TestSupport::sharedStateIsPutBack()
+{
+    const QColor border = FramelessDialog::m_defaultBorderColor;
+    FramelessHelper helper;
+    const unsigned int borderWidth = helper.borderWidth();
+    const unsigned int titleHeight = helper.titleHeight();
+    {
+        const StateGuard guard;
+        helper.setBorderWidth(borderWidth + 1);
+        helper.setTitleHeight(titleHeight + 1);
+        FramelessDialog::m_defaultBorderColor = Qt::red;
+        qApp->setStyleSheet(QStringLiteral("QLabel { color: red }"));
+    }
+    QCOMPARE(helper.borderWidth(), borderWidth);
+    QCOMPARE(helper.titleHeight(), titleHeight);
+    QCOMPARE(FramelessDialog::m_defaultBorderColor, border);
+    QCOMPARE(qApp->styleSheet(), QString());
+}
+
+void tst_TestSupport::driverActsOnTheDialog()
+{
+    QDialog dialog;
+    QWidget *seen = nullptr;
+    ModalDriver driver([&seen](QWidget *widget) {
+        seen = widget;
+        accept(widget);
+    });
+    QVERIFY(!driver.ran());
+
+    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+
+    QVERIFY(driver.ran());
+    QCOMPARE(seen, &dialog);
+}
+
+void tst_TestSupport::driverActsOnNestedDialogs()
+{
+    QDialog outer;
+    ModalDriver driver([](QWidget *widget) {
+        QDialog inner(widget);
+        if (inner.exec() == QDialog::Accepted)
+            accept(widget);
+    });
+    driver.then(&accept);
+
+    QCOMPARE(outer.exec(), int(QDialog::Accepted));
+
+    QVERIFY(driver.ran());
+}
+
+void tst_TestSupport::driverActsOnTheSameDialogAgain()
+{
+    QDialog dialog;
+    ModalDriver driver(&accept);
+    driver.then([](QWidget *widget) { qobject_cast<QDialog *>(widget)->reject(); });
+
+    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+    QVERIFY(!driver.ran());
+    QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+
+    QVERIFY(driver.ran());
+}
+
+QTEST_MAIN(tst_TestSupport)
+
+#include "tst_testsupport.moc"
