@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 the tarnwidgets developers
+// SPDX-License-Identifier: MIT
+
+#include "page.h"
+
+#include "controlspage.h"
+#include "dialogspage.h"
+#include "separatorspage.h"
+#include "stylesheetpage.h"
+#include "titlebarpage.h"
+
+namespace Gallery {
+
+QVector<Page> pages()
+{
+    return {TitleBarPage::page(), DialogsPage::page(), SeparatorsPage::page(), ControlsPage::page(),
+            StyleSheetPage::page()};
+}
+
+} // namespace Gallery
