@@ -39,6 +39,7 @@ private Q_SLOTS:
 
     // The settings
     void newHelperHasTheDefaults();
+    void metaObjectHasNothingOfItsOwn();
     void eachFlagIsSetByItself_data();
     void eachFlagIsSetByItself();
     void zeroIsIgnoredAsBorderWidthAndTitleHeight();
@@ -92,6 +93,16 @@ void tst_FramelessHelper::newHelperHasTheDefaults()
     QVERIFY(!helper->rubberBandOnResisze());
     QCOMPARE(helper->borderWidth(), 5u);
     QCOMPARE(helper->titleHeight(), 30u);
+}
+
+void tst_FramelessHelper::metaObjectHasNothingOfItsOwn()
+{
+    const QMetaObject &meta = FramelessHelper::staticMetaObject;
+
+    QCOMPARE(QByteArray(meta.className()), QByteArray("Tarn::Widgets::FramelessHelper"));
+    QCOMPARE(meta.superClass(), &QObject::staticMetaObject);
+    QCOMPARE(meta.methodCount(), meta.methodOffset());
+    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
 }
 
 using Setter = void (FramelessHelper::*)(bool);

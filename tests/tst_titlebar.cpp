@@ -11,6 +11,7 @@
 #include <QIcon>
 #include <QImage>
 #include <QLabel>
+#include <QMetaMethod>
 #include <QPixmap>
 #include <QPointer>
 #include <QSignalSpy>
@@ -153,6 +154,8 @@ void addOutsideIndexRows()
 
 } // namespace
 
+Q_DECLARE_METATYPE(QMetaMethod::MethodType)
+
 class tst_TitleBar : public QObject
 {
     Q_OBJECT
@@ -170,6 +173,8 @@ private Q_SLOTS:
     // A new bar
     void newBarIsMarkedAndOfFixedHeight();
     void newBarIsAChildWithoutWindowFlags();
+    void signalsAndSlotsAreKnownByTheirNames_data();
+    void signalsAndSlotsAreKnownByTheirNames();
     void piecesStandInOrder();
     void layoutsHaveTheirMarginsAndSpacing();
     void piecesShowFromLeftToRight();
@@ -261,6 +266,28 @@ void tst_TitleBar::newBarIsAChildWithoutWindowFlags()
     QVERIFY(!bar->isWindow());
     QCOMPARE(bar->windowFlags(), QFrame(&window).windowFlags());
     QCOMPARE(bar->title(), QString());
+}
+
+void tst_TitleBar::signalsAndSlotsAreKnownByTheirNames_data()
+{
+    QTest::addColumn<QByteArray>("signature");
+    QTest::addColumn<QMetaMethod::MethodType>("type");
+    for (const char *name : {"maximumed()", "minimuned()", "normaled()", "closed()"})
+        QTest::newRow(name) << QByteArray(name) << QMetaMethod::Signal;
+    for (const char *name : {"switchMaxMin()", "clearChecked()"})
+        QTest::newRow(name) << QByteArray(name) << QMetaMethod::Slot;
+}
+
+void tst_TitleBar::signalsAndSlotsAreKnownByTheirNames()
+{
+    QFETCH(QByteArray, signature);
+    QFETCH(QMetaMethod::MethodType, type);
+    const QMetaObject &meta = TitleBar::staticMetaObject;
+    const int index = meta.indexOfMethod(signature.constData());
+
+    QVERIFY(index >= meta.methodOffset());
+    QCOMPARE(meta.method(index).methodType(), type);
+    QCOMPARE(meta.method(index).access(), QMetaMethod::Public);
 }
 
 void tst_TitleBar::piecesStandInOrder()
