@@ -157,6 +157,7 @@ void TitleBar::createConnects()
     connect(d->m_buttons.at(CloseButton), &QToolButton::clicked, this, [this] {
         // A copy, since the function may replace itself; guarded, since it may delete the bar.
         const QPointer<TitleBar> guard(this);
+        // NOLINTNEXTLINE(clang-analyzer-core.CallAndMessage): d is never null, unseen by the analyzer
         const std::function<bool()> mayClose = d->m_mayClose;
         if ((!mayClose || mayClose()) && guard)
             Q_EMIT closed();
