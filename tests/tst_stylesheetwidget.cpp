@@ -39,7 +39,8 @@ class RecordingStyle : public QProxyStyle
 public:
     explicit RecordingStyle(const QWidget *target)
         : m_target(target)
-    { }
+    {
+    }
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override
