@@ -147,7 +147,7 @@ void StyleSheetPage::browse()
 void StyleSheetPage::load()
 {
     const QString path = QDir::fromNativeSeparators(m_path->text());
-    const QString rules = QssLoader::load(path);
+    const QString rules = path.isEmpty() ? QString() : QssLoader::load(path);
     if (rules.isNull()) {
         showMessage(path.isEmpty() ? tr("Which file?") : whyNotLoaded(path), true);
         return;
