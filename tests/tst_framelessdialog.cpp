@@ -127,6 +127,7 @@ private Q_SLOTS:
     void nullLayoutIsIgnored();
     void layoutOfAnotherOwnerIsLeftThere_data();
     void layoutOfAnotherOwnerIsLeftThere();
+    void layoutMadeWithTheDialogAsItsParentIsTaken();
     void heightBesidesTheContentFollowsTheTitleBar();
 
     // Title and icon
@@ -569,6 +570,23 @@ void tst_FramelessDialog::layoutOfAnotherOwnerIsLeftThere()
     QCOMPARE(mainItems(dialog), QStringLiteral("title, line, line, bottom bar"));
     QCOMPARE(taken->parent(), parent);
     QCOMPARE(taken->contentsMargins(), margins);
+}
+
+void tst_FramelessDialog::layoutMadeWithTheDialogAsItsParentIsTaken()
+{
+    // GIVEN a layout that was constructed on the dialog, upon which Qt warns that the dialog has one
+    TestDialog dialog;
+    m_guard->sentry().expect(QtWarningMsg, QStringLiteral("which already has a layout"));
+    auto *layout = new QVBoxLayout(&dialog);
+    layout->setObjectName(QStringLiteral("form"));
+    QVERIFY(!dialog.layout());
+
+    // WHEN it is given to the dialog
+    dialog.setLayout(layout);
+
+    // THEN it is the content
+    QCOMPARE(dialog.layout(), layout);
+    QCOMPARE(mainItems(dialog), QStringLiteral("title, line, form, line, bottom bar"));
 }
 
 void tst_FramelessDialog::heightBesidesTheContentFollowsTheTitleBar()

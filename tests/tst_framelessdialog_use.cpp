@@ -109,6 +109,8 @@ private Q_SLOTS:
     void minimiseButtonMinimises();
     void pressInTheDialogActivatesIt_data();
     void pressInTheDialogActivatesIt();
+    void keyboardGoesBackToWhereItCameFrom_data();
+    void keyboardGoesBackToWhereItCameFrom();
 
     // Results
     void execReturnsTheResult_data();
@@ -470,6 +472,36 @@ void tst_FramelessDialogUse::pressInTheDialogActivatesIt()
         QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_X);
         QCOMPARE(field->text(), QStringLiteral("x"));
     }
+}
+
+void tst_FramelessDialogUse::keyboardGoesBackToWhereItCameFrom_data()
+{
+    QTest::addColumn<bool>("fromTheParent");
+    QTest::newRow("the dialog's parent") << true;
+    QTest::newRow("another window") << false;
+}
+
+void tst_FramelessDialogUse::keyboardGoesBackToWhereItCameFrom()
+{
+    QFETCH(bool, fromTheParent);
+
+    // GIVEN a window that is active when a modeless dialog is shown, which takes the keyboard
+    QWidget main;
+    QWidget other;
+    main.show();
+    other.show();
+    QWidget &former = fromTheParent ? main : other;
+    former.activateWindow();
+    QTRY_COMPARE(QGuiApplication::focusWindow(), former.windowHandle());
+    TestDialog dialog(&main);
+    dialog.show();
+    QTRY_COMPARE(QGuiApplication::focusWindow(), dialog.windowHandle());
+
+    // WHEN the dialog goes
+    dialog.close();
+
+    // THEN the keyboard is where it was
+    QTRY_COMPARE(QGuiApplication::focusWindow(), former.windowHandle());
 }
 
 void tst_FramelessDialogUse::execReturnsTheResult_data()

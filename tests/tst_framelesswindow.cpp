@@ -137,6 +137,7 @@ private Q_SLOTS:
     void placedWindowBecomesFramelessAtTheOrigin_data();
     void placedWindowBecomesFramelessAtTheOrigin();
     void otherWindowsStayWhereTheyAre();
+    void firstContentHidesAPlacedWindowOnScreen();
     void placedWindowKeepsItsFlagsAtTheSecondContent();
 
     // Title and icon
@@ -603,6 +604,19 @@ void tst_FramelessWindow::otherWindowsStayWhereTheyAre()
     QCOMPARE(window.windowFlags(), flags);
     QVERIFY(offersRestore(window));
     QVERIFY(offersMaximise(window));
+}
+
+void tst_FramelessWindow::firstContentHidesAPlacedWindowOnScreen()
+{
+    FramelessWindow placed(true, nullptr);
+    placed.show();
+    placed.setCentralWidget(new QWidget);
+    QVERIFY(!placed.isVisible());
+
+    FramelessWindow window(nullptr);
+    window.show();
+    window.setCentralWidget(new QWidget);
+    QVERIFY(window.isVisible());
 }
 
 void tst_FramelessWindow::placedWindowKeepsItsFlagsAtTheSecondContent()
