@@ -51,6 +51,7 @@ private Q_SLOTS:
     void lettingGoRestoresTheWidget_data();
     void lettingGoRestoresTheWidget();
     void lettingGoWithUnchangedFlagsKeepsTheWidgetOnScreen();
+    void removedWidgetIsNoLongerFiltered();
     void secondActivationIsIgnored();
     void reactivationSavesTheFlagsAnew();
     void unknownWidgetIsLeftAlone();
@@ -266,6 +267,34 @@ void tst_FramelessHelper::lettingGoWithUnchangedFlagsKeepsTheWidgetOnScreen()
     managed.helper.removeFrom(&managed.panel);
 
     QVERIFY(managed.panel.isVisible());
+}
+
+/* Counts the events that come by. */
+class CountingHelper : public FramelessHelper
+{
+public:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        ++events;
+        return FramelessHelper::eventFilter(watched, event);
+    }
+
+    int events = 0;
+};
+
+void tst_FramelessHelper::removedWidgetIsNoLongerFiltered()
+{
+    Panel panel;
+    CountingHelper helper;
+    helper.activateOn(&panel);
+    mousePress(&panel, Middle);
+    QVERIFY(helper.events > 0);
+
+    helper.removeFrom(&panel);
+    helper.events = 0;
+    mousePress(&panel, Middle);
+
+    QCOMPARE(helper.events, 0);
 }
 
 void tst_FramelessHelper::secondActivationIsIgnored()

@@ -233,8 +233,11 @@ void tst_FramelessHelperDrag::zonesAreThoseOfTheFrameNotOfTheContents()
     QCOMPARE(panel.cursor().shape(), Qt::ArrowCursor);
 
     // AND a hover, whose position counts from the contents, is measured against the frame too
-    hoverMove(&panel, QPoint(frame.x() + 5, frame.center().y()) - panel.geometry().topLeft());
+    const QPoint lastColumn = QPoint(frame.x() + 5, frame.center().y()) - panel.geometry().topLeft();
+    hoverMove(&panel, lastColumn);
     QCOMPARE(panel.cursor().shape(), Qt::SizeHorCursor);
+    hoverMove(&panel, lastColumn + QPoint(1, 0));
+    QCOMPARE(panel.cursor().shape(), Qt::ArrowCursor);
 }
 
 void tst_FramelessHelperDrag::cursorGoesBackWhenThePointerComesOffTheBorder()
