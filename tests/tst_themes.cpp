@@ -320,6 +320,7 @@ private Q_SLOTS:
     void titleButtonsShowTheThemesIconsSharply_data();
     void titleButtonsShowTheThemesIconsSharply();
     void titleButtonsFollowAChangeOfTheme();
+    void titleButtonsIconCanBeTakenAway();
     void titleBarsHaveTheDocumentedHeights();
     void dialogNeedsTheHeightThatItTells();
 
@@ -586,6 +587,29 @@ void tst_Themes::titleButtonsFollowAChangeOfTheme()
     QVERIFY(QTest::qWaitForWindowExposed(&fresh));
     QCOMPARE(bar.grab().toImage(), fresh.grab().toImage());
     QVERIFY(bar.titleButton(4)->grab().toImage() != dark);
+}
+
+void tst_Themes::titleButtonsIconCanBeTakenAway()
+{
+    // GIVEN a title button with the theme's icon
+    const QString theme = styleSheet(QStringLiteral("dark"));
+    qApp->setStyleSheet(theme);
+    TitleBar bar;
+    bar.resize(400, bar.height());
+    bar.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bar));
+    const QRect button = bar.titleButton(4)->geometry();
+    const QImage themed = bar.grab(button).toImage();
+    QImage plain = themed;
+    plain.fill(themed.pixelColor(0, 0));
+    QVERIFY(themed != plain);
+
+    // WHEN the application has an icon of its own
+    qApp->setStyleSheet(
+        theme + QStringLiteral("QToolButton[isTitleBarCloseButton=\"true\"] { background-image: url(); }"));
+
+    // THEN the theme's is gone
+    QCOMPARE(bar.grab(button).toImage(), plain);
 }
 
 void tst_Themes::titleBarsHaveTheDocumentedHeights()
