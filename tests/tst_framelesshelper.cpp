@@ -70,6 +70,7 @@ private Q_SLOTS:
     // Several widgets, and lifetimes
     void widgetsOfOneHelperAreDraggedApart();
     void deadWidgetIsForgotten();
+    void deadWidgetIsForgottenEvenIfItsEventsWereEaten();
     void widgetDyingInMidDragTakesItsOutlineAlong();
     void widgetAtTheAddressOfADeadOneIsUnknown();
     void removalInMidDragEndsTheDrag();
@@ -568,6 +569,30 @@ void tst_FramelessHelper::deadWidgetIsForgotten()
     managed.helper.removeFrom(address);
     drag(&managed.panel, InTitle, InTitle + QPoint(40, 30));
     QCOMPARE(managed.panel.geometry(), Frame.translated(40, 30));
+}
+
+/* Lets no event through. */
+class EventEater : public QObject
+{
+public:
+    bool eventFilter(QObject *, QEvent *) override
+    {
+        return true;
+    }
+};
+
+void tst_FramelessHelper::deadWidgetIsForgottenEvenIfItsEventsWereEaten()
+{
+    FramelessHelper helper;
+    helper.setRubberBandOnMove(true);
+    EventEater eater;
+    {
+        Panel panel;
+        helper.activateOn(&panel);
+        QCOMPARE(rubberBands().size(), 1);
+        panel.installEventFilter(&eater); // asked before the helper
+    }
+    QVERIFY(rubberBands().isEmpty());
 }
 
 void tst_FramelessHelper::widgetDyingInMidDragTakesItsOutlineAlong()
