@@ -3,7 +3,7 @@
 
 #include "toplevelwindow_p.h"
 
-#include <QEvent>
+#include <QChildEvent>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
@@ -49,7 +49,7 @@ void TopLevelWindow::nativeWindowChanged()
     QWindow *window = m_widget->windowHandle();
     if (!window)
         return;
-    window->installEventFilter(this);
+    watch(window);
     if (!m_title.isEmpty())
         window->setTitle(m_title);
     if (!m_icon.isNull())
@@ -109,10 +109,26 @@ QWindow *TopLevelWindow::formerFocusWindow() const
     return parent ? parent->window()->windowHandle() : nullptr;
 }
 
+void TopLevelWindow::watch(QObject *window)
+{
+    window->installEventFilter(this);
+    for (QObject *child : window->children())
+        watch(child);
+}
+
 bool TopLevelWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin)
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::TouchBegin:
         takeKeyboard();
+        break;
+    case QEvent::ChildAdded:
+        watch(static_cast<QChildEvent *>(event)->child());
+        break;
+    default:
+        break;
+    }
     return QObject::eventFilter(watched, event);
 }
 

@@ -47,10 +47,12 @@ public:
     /*! Gives the keyboard back to the window that had it before takeKeyboard(), else to the parent's. */
     void returnKeyboard();
 
-    /*! Sees the presses in the native window, those in child widgets among them. */
+    /*! Sees the presses in the native window, which has those of most child widgets, and in native windows of
+     * children. */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void watch(QObject *window);
     QRect stateGeometry() const;
     QWindow *formerFocusWindow() const;
 
