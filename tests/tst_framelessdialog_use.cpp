@@ -19,6 +19,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
+#include <QTouchDevice>
 #include <QWindow>
 #include <memory>
 #include <optional>
@@ -68,6 +69,28 @@ void click(QAbstractButton *button)
     QTest::mouseClick(button, Qt::LeftButton);
 }
 
+class TouchPad : public QWidget
+{
+public:
+    TouchPad()
+    {
+        setAttribute(Qt::WA_AcceptTouchEvents);
+        setMinimumSize(50, 50);
+    }
+
+    int touches = 0;
+    int presses = 0;
+
+protected:
+    bool event(QEvent *event) override
+    {
+        touches += event->type() == QEvent::TouchBegin ? 1 : 0;
+        presses += event->type() == QEvent::MouseButtonPress ? 1 : 0;
+        const bool isTouch = event->type() >= QEvent::TouchBegin && event->type() <= QEvent::TouchEnd;
+        return isTouch || QWidget::event(event);
+    }
+};
+
 } // namespace
 
 Q_DECLARE_METATYPE(Setter)
@@ -109,6 +132,7 @@ private Q_SLOTS:
     void minimiseButtonMinimises();
     void pressInTheDialogActivatesIt_data();
     void pressInTheDialogActivatesIt();
+    void touchInTheDialogActivatesIt();
     void keyboardGoesBackToWhereItCameFrom_data();
     void keyboardGoesBackToWhereItCameFrom();
 
@@ -472,6 +496,35 @@ void tst_FramelessDialogUse::pressInTheDialogActivatesIt()
         QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_X);
         QCOMPARE(field->text(), QStringLiteral("x"));
     }
+}
+
+void tst_FramelessDialogUse::touchInTheDialogActivatesIt()
+{
+    // GIVEN a modeless dialog with a widget that takes touches, so that Qt makes no mouse events of them
+    QWidget main;
+    main.setGeometry(0, 0, 100, 100);
+    main.show();
+    TestDialog dialog(&main);
+    dialog.setGeometry(200, 200, 300, 200);
+    auto *content = new QVBoxLayout;
+    auto *pad = new TouchPad;
+    content->addWidget(pad);
+    dialog.setLayout(content);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    main.activateWindow();
+    QTRY_COMPARE(QGuiApplication::focusWindow(), main.windowHandle());
+
+    // WHEN a finger touches it
+    const QPoint pos = pad->mapTo(&dialog, pad->rect().center());
+    QTouchDevice *screen = QTest::createTouchDevice();
+    QTest::touchEvent(dialog.windowHandle(), screen).press(0, pos, dialog.windowHandle());
+    QTest::touchEvent(dialog.windowHandle(), screen).release(0, pos, dialog.windowHandle());
+
+    // THEN the dialog has the keyboard
+    QTRY_COMPARE(pad->touches, 1);
+    QCOMPARE(pad->presses, 0);
+    QTRY_COMPARE(QGuiApplication::focusWindow(), dialog.windowHandle());
 }
 
 void tst_FramelessDialogUse::keyboardGoesBackToWhereItCameFrom_data()

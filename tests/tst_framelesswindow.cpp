@@ -136,6 +136,7 @@ private Q_SLOTS:
     // Placement
     void placedWindowBecomesFramelessAtTheOrigin_data();
     void placedWindowBecomesFramelessAtTheOrigin();
+    void placementAddsEveryHintThatIsMissing();
     void otherWindowsStayWhereTheyAre();
     void firstContentHidesAPlacedWindowOnScreen();
     void placedWindowKeepsItsFlagsAtTheSecondContent();
@@ -453,10 +454,14 @@ void tst_FramelessWindow::secondContentReplacesTheFirst()
     // WHEN other content comes
     auto *second = new QWidget;
     window.setCentralWidget(second, barThen);
+
+    // THEN the title bar changes its place at once
+    QVERIFY(bar);
+    QCOMPARE(bar->parentWidget(), barThen ? frameOf(window) : nullptr);
+
+    // and the first is deleted with its frame, while the title bar lives on
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
-
-    // THEN the first is deleted with its frame, and the title bar lives on
     QVERIFY(first.isNull());
     QVERIFY(firstFrame.isNull());
     QVERIFY(bar);
@@ -592,6 +597,25 @@ void tst_FramelessWindow::placedWindowBecomesFramelessAtTheOrigin()
     QVERIFY(offersRestore(window));
     QVERIFY(!offersMaximise(window));
     QVERIFY(!window.isMaximized());
+}
+
+void tst_FramelessWindow::placementAddsEveryHintThatIsMissing()
+{
+    // GIVEN a window to be placed that has none of the hints, and what Qt makes of them
+    constexpr Qt::WindowFlags flags = Qt::Window | Qt::WindowTitleHint;
+    FramelessWindow window(true, nullptr);
+    window.setWindowFlags(flags);
+    QVERIFY(!(window.windowFlags() & AddedFlags));
+    QMainWindow plain;
+    plain.setWindowFlags(flags);
+    plain.setWindowFlags(plain.windowFlags() | AddedFlags);
+    QVERIFY(plain.windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
+
+    // WHEN it gets its content
+    window.setCentralWidget(new QWidget);
+
+    // THEN it has them all
+    QCOMPARE(window.windowFlags(), plain.windowFlags());
 }
 
 void tst_FramelessWindow::otherWindowsStayWhereTheyAre()
