@@ -132,6 +132,8 @@ private Q_SLOTS:
     void minimiseButtonMinimises();
     void pressInTheDialogActivatesIt_data();
     void pressInTheDialogActivatesIt();
+    void pressInANativeChildActivatesTheDialog_data();
+    void pressInANativeChildActivatesTheDialog();
     void touchInTheDialogActivatesIt();
     void keyboardGoesBackToWhereItCameFrom_data();
     void keyboardGoesBackToWhereItCameFrom();
@@ -496,6 +498,45 @@ void tst_FramelessDialogUse::pressInTheDialogActivatesIt()
         QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_X);
         QCOMPARE(field->text(), QStringLiteral("x"));
     }
+}
+
+void tst_FramelessDialogUse::pressInANativeChildActivatesTheDialog_data()
+{
+    QTest::addColumn<bool>("nativeFromTheStart");
+    QTest::newRow("native before the dialog is shown") << true;
+    QTest::newRow("native since") << false;
+}
+
+void tst_FramelessDialogUse::pressInANativeChildActivatesTheDialog()
+{
+    QFETCH(bool, nativeFromTheStart);
+
+    // GIVEN a modeless dialog with a field that has a native window of its own
+    QWidget main;
+    main.setGeometry(0, 0, 100, 100);
+    main.show();
+    TestDialog dialog(&main);
+    dialog.setGeometry(200, 200, 300, 200);
+    auto *content = new QVBoxLayout;
+    auto *field = new QLineEdit;
+    content->addWidget(field);
+    dialog.setLayout(content);
+    if (nativeFromTheStart)
+        field->winId();
+    dialog.show();
+    field->winId();
+    QVERIFY(field->windowHandle() && field->windowHandle() != dialog.windowHandle());
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    main.activateWindow();
+    QTRY_COMPARE(QGuiApplication::focusWindow(), main.windowHandle());
+
+    // WHEN the user presses in it
+    QTest::mouseClick(field->windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+
+    // THEN the dialog has the keyboard, and the field the focus
+    QTRY_VERIFY(QGuiApplication::focusWindow() != main.windowHandle());
+    QTRY_VERIFY(field->hasFocus());
+    QVERIFY(dialog.isActiveWindow());
 }
 
 void tst_FramelessDialogUse::touchInTheDialogActivatesIt()
