@@ -1,10 +1,14 @@
 # SPDX-FileCopyrightText: 2026 the tarnwidgets developers
 # SPDX-License-Identifier: MIT
 
-# Fails if LIBRARY, as READELF and NM read it, has anything of its own to run when it is loaded. The compiler's start-up
-# files bring one entry of .init_array themselves: frame_dummy.
+# Fails if LIBRARY, as READELF and NM read it, has anything of its own to run when it is loaded, which its .init_array
+# would tell. The compiler's start-up files bring functions of their own.
 
 cmake_minimum_required(VERSION 3.16)
+
+set(of_the_compiler
+    frame_dummy
+    init_have_lse_atomics) # AArch64: finds out which atomic instructions there are
 
 function(read variable)
     execute_process(COMMAND ${ARGN} ${LIBRARY}
@@ -16,25 +20,37 @@ function(read variable)
     set(${variable} "${output}" PARENT_SCOPE)
 endfunction()
 
-read(header ${READELF} -h)
-read(dynamic ${READELF} -dW)
-read(symbols ${NM} -C)
+read(sections ${READELF} -SW)
+read(relocations ${READELF} -rW)
+read(symbols ${NM})
 
-if(NOT header MATCHES "Class: +ELF(32|64)")
-    message(FATAL_ERROR "${LIBRARY} is of no known ELF class")
+if(NOT sections MATCHES " \\.init_array +INIT_ARRAY +([0-9a-f]+) [0-9a-f]+ ([0-9a-f]+) ")
+    message(FATAL_ERROR "${LIBRARY} has no .init_array, not even for the compiler's own")
 endif()
-math(EXPR pointer_size "${CMAKE_MATCH_1} / 8")
-if(NOT dynamic MATCHES "\\(INIT_ARRAYSZ\\) +([0-9]+)")
-    message(FATAL_ERROR "${LIBRARY} has no .init_array, not even the entry of the compiler's own")
-endif()
-math(EXPR entries "${CMAKE_MATCH_1} / ${pointer_size}")
-if(NOT symbols MATCHES " t frame_dummy\n")
-    message(FATAL_ERROR "${LIBRARY} is stripped, or its compiler brings no frame_dummy")
+math(EXPR first "0x${CMAKE_MATCH_1}")
+math(EXPR last "${first} + 0x${CMAKE_MATCH_2}")
+
+# Each entry is the target of a relocation, whose last column is the function's address.
+set(functions)
+string(REGEX MATCHALL "[0-9a-f]+ +[0-9a-f]+ R_[A-Z0-9_]+_RELATIV[^\n]*" relocations "${relocations}")
+foreach(relocation IN LISTS relocations)
+    string(REGEX MATCH "^[0-9a-f]+" place "${relocation}")
+    math(EXPR place "0x${place}")
+    if(place GREATER_EQUAL first AND place LESS last)
+        string(REGEX MATCH "[0-9a-f]+$" address "${relocation}")
+        if(symbols MATCHES "(^|\n)0*${address} [tTwW] ([^\n]+)")
+            list(APPEND functions ${CMAKE_MATCH_2})
+        else()
+            list(APPEND functions "one without a name at ${address}")
+        endif()
+    endif()
+endforeach()
+if(NOT "frame_dummy" IN_LIST functions)
+    message(FATAL_ERROR "${LIBRARY} is stripped, or its compiler brings no frame_dummy: ${functions}")
 endif()
 
-# Named after the source file that they come from.
-string(REGEX MATCHALL "[^\n]+ _GLOBAL__(sub_)?[ID][^\n]*" own "${symbols}")
-if(entries GREATER 1 OR own)
-    message("${LIBRARY} runs ${entries} functions when loaded instead of frame_dummy alone: ${own}")
+list(REMOVE_ITEM functions ${of_the_compiler})
+if(functions)
+    message("${LIBRARY} runs when loaded: ${functions}")
     message(FATAL_ERROR "Dynamic initialisers")
 endif()
