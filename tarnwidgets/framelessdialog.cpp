@@ -52,8 +52,8 @@ public:
     {
     }
 
-    QFrame *m_pUpperLine = nullptr;
-    QFrame *m_pLowerLine = nullptr;
+    QPointer<QFrame> m_pUpperLine;
+    QPointer<QFrame> m_pLowerLine;
     QPointer<QWidget> m_pContentHolder;
     QPointer<QLayout> m_pContentLayout;
     FramelessHelper *m_pHelper = nullptr;
@@ -291,14 +291,17 @@ void FramelessDialog::setOKButtonDefault(bool isDefault)
 
 void FramelessDialog::setBottomBarVisible(bool visible)
 {
-    d->m_pLowerLine->setVisible(visible);
+    if (d->m_pLowerLine)
+        d->m_pLowerLine->setVisible(visible);
     m_pBottomWidget->setVisible(visible);
 }
 
 void FramelessDialog::setHorizontalLineHeight(int height)
 {
-    d->m_pUpperLine->setFixedHeight(height);
-    d->m_pLowerLine->setFixedHeight(height);
+    for (QFrame *line : {d->m_pUpperLine.data(), d->m_pLowerLine.data()}) {
+        if (line)
+            line->setFixedHeight(height);
+    }
 }
 
 void FramelessDialog::setDialogMovable(bool movable)

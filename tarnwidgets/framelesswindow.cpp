@@ -72,12 +72,7 @@ FramelessWindow::FramelessWindow(bool placement, QWidget *parent)
     createConnects();
 }
 
-FramelessWindow::~FramelessWindow()
-{
-    // The frame dies after the private data that the connection uses.
-    if (d->m_pCentralFrame)
-        d->m_pCentralFrame->disconnect(this);
-}
+FramelessWindow::~FramelessWindow() = default;
 
 void FramelessWindow::createWidgets()
 {
@@ -133,7 +128,7 @@ QFrame *FramelessWindow::createCentralFrame(bool withTitleBar)
 
     // The bar outlives the frame, whoever deletes that: QMainWindow::setCentralWidget() may be called
     // directly.
-    connect(frame, &QObject::destroyed, this, [this, frame] {
+    connect(frame, &QObject::destroyed, &d->m_platformWindow, [this, frame] {
         if (d->m_pTitleBar->parent() == frame)
             d->m_pTitleBar->setParent(nullptr);
     });
@@ -216,7 +211,8 @@ void FramelessWindow::swithMaxNormal()
 
 bool FramelessWindow::event(QEvent *event)
 {
-    if (event->type() == QEvent::WinIdChange)
+    // QWidget gives a native window its own icon: after WinIdChange, and when the application's changes.
+    if (event->type() == QEvent::WinIdChange || event->type() == QEvent::WindowIconChange)
         d->m_platformWindow.nativeWindowChanged();
     return AppMainWindow::event(event);
 }

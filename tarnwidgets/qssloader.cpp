@@ -8,7 +8,7 @@
 QString QssLoader::load(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
         return QString();
     const QByteArray text = file.readAll();
     if (text.isEmpty())

@@ -52,7 +52,7 @@ void TopLevelWindow::nativeWindowChanged()
     watch(window);
     if (!m_title.isEmpty())
         window->setTitle(m_title);
-    if (!m_icon.isNull())
+    if (!m_icon.isNull() && window->icon().cacheKey() != m_icon.cacheKey())
         window->setIcon(m_icon);
 }
 

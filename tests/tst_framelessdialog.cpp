@@ -153,6 +153,7 @@ private Q_SLOTS:
     void okButtonDefaultCanBeTakenAndGiven();
     void bottomBarGoesWithTheLowerLineOnly();
     void lineHeightIsThatOfBothLines();
+    void lineHeightWithoutLinesIsIgnored();
 
 private:
     std::optional<FunctionGuard> m_guard;
@@ -927,6 +928,22 @@ void tst_FramelessDialog::lineHeightIsThatOfBothLines()
         QCOMPARE(line->maximumHeight(), 7);
         QCOMPARE(line->height(), 7);
     }
+}
+
+void tst_FramelessDialog::lineHeightWithoutLinesIsIgnored()
+{
+    // GIVEN a dialog whose subclass has deleted first one line, then the other
+    TestDialog dialog;
+    delete dialog.separators().constFirst();
+    dialog.setHorizontalLineHeight(7);
+    QCOMPARE(dialog.separators().constFirst()->minimumHeight(), 7);
+    delete dialog.separators().constFirst();
+    QVERIFY(dialog.separators().isEmpty());
+
+    // THEN neither this nor the bottom bar's visibility needs them
+    dialog.setHorizontalLineHeight(9);
+    dialog.setBottomBarVisible(false);
+    QVERIFY(dialog.m_pBottomWidget->isHidden());
 }
 
 QTEST_MAIN(tst_FramelessDialog)

@@ -7,6 +7,7 @@
 #include "support/functionguard.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QFrame>
 #include <QImage>
 #include <QLabel>
@@ -130,6 +131,7 @@ private Q_SLOTS:
     void sameContentTwiceStays();
     void contentIsOwnedByTheWindow();
     void deletedContentIsForgotten();
+    void windowMayDieBeforeContentThatWasReplaced();
     void titleBarOutlivesAFrameThatOthersReplace();
     void titleBarOutlivesAFrameThatOthersTakeAway();
 
@@ -147,6 +149,8 @@ private Q_SLOTS:
     void titleReachesPlatformAndScreenReaders();
     void iconIsTheLogosAndThePlatforms_data();
     void iconIsTheLogosAndThePlatforms();
+    void iconOutlivesAChangeOfTheApplications();
+    void titleAndIconReachAWindowThatIsMadeAnew();
     void accessibleNameOfTheApplicationStays();
     void iconTextIsTheWidgets();
 
@@ -530,6 +534,26 @@ void tst_FramelessWindow::deletedContentIsForgotten()
     QCOMPARE(framed(window), QList<const QWidget *>({window.getTitleBar(), next}));
 }
 
+void tst_FramelessWindow::windowMayDieBeforeContentThatWasReplaced()
+{
+    // GIVEN a window whose content was replaced twice, without a return to the event loop that deletes the
+    // former
+    auto window = std::make_unique<FramelessWindow>(nullptr);
+    const QPointer<TitleBar> bar = window->getTitleBar();
+    const QPointer<QWidget> contents[] = {new QWidget, new QWidget, new QWidget};
+    for (const QPointer<QWidget> &content : contents)
+        window->setCentralWidget(content);
+    QVERIFY(contents[0]);
+
+    // WHEN the window is deleted
+    window.reset();
+
+    // THEN everything goes with it
+    for (const QPointer<QWidget> &content : contents)
+        QVERIFY(content.isNull());
+    QVERIFY(bar.isNull());
+}
+
 void tst_FramelessWindow::titleBarOutlivesAFrameThatOthersReplace()
 {
     // GIVEN a window with content
@@ -714,6 +738,7 @@ void tst_FramelessWindow::titleReachesPlatformAndScreenReaders()
 void tst_FramelessWindow::iconIsTheLogosAndThePlatforms_data()
 {
     QTest::addColumn<bool>("shownFirst");
+    QTest::newRow("set before the first show") << false;
     QTest::newRow("set on screen") << true;
 }
 
@@ -744,6 +769,52 @@ void tst_FramelessWindow::iconIsTheLogosAndThePlatforms()
     const QIcon logo = someIcon(Qt::blue);
     window.getTitleBar()->setTitleButtonIcon(Logo, logo);
     QCOMPARE(window.windowIcon().cacheKey(), logo.cacheKey());
+}
+
+void tst_FramelessWindow::iconOutlivesAChangeOfTheApplications()
+{
+    // GIVEN a window on screen with an icon of its own
+    FramelessWindow window(nullptr);
+    window.setCentralWidget(new QWidget);
+    window.setWindowIcon(someIcon(Qt::red));
+    window.show();
+    QCOMPARE(iconColor(window.windowHandle()->icon()), qRgb(255, 0, 0));
+
+    // WHEN the application gets another icon
+    QApplication::setWindowIcon(someIcon(Qt::blue));
+    QCoreApplication::sendPostedEvents();
+
+    // THEN the platform still shows the window's
+    QCOMPARE(iconColor(window.windowHandle()->icon()), qRgb(255, 0, 0));
+}
+
+void tst_FramelessWindow::titleAndIconReachAWindowThatIsMadeAnew()
+{
+    // GIVEN a window on screen with title and icon
+    FramelessWindow window(nullptr);
+    window.setCentralWidget(new QWidget);
+    window.setWindowTitle(QStringLiteral("Monitor"));
+    window.setWindowIcon(someIcon(Qt::red));
+    window.show();
+    const QPointer<QWindow> former = window.windowHandle();
+
+    // WHEN it gets other flags
+    const Qt::WindowFlags flags = window.windowFlags() | Qt::WindowStaysOnTopHint;
+    window.setWindowFlags(flags);
+    window.show();
+
+    // THEN its native window has both
+    QCOMPARE(window.windowHandle()->title(), QStringLiteral("Monitor"));
+    QCOMPARE(iconColor(window.windowHandle()->icon()), qRgb(255, 0, 0));
+
+    // and so has another one, when the window was a part of a page for a while
+    QWidget page;
+    window.setParent(&page, Qt::Widget);
+    QVERIFY(former.isNull());
+    window.setParent(nullptr, flags);
+    window.show();
+    QCOMPARE(window.windowHandle()->title(), QStringLiteral("Monitor"));
+    QCOMPARE(iconColor(window.windowHandle()->icon()), qRgb(255, 0, 0));
 }
 
 void tst_FramelessWindow::accessibleNameOfTheApplicationStays()

@@ -160,6 +160,8 @@ void tst_QssLoader::fileThatCannotBeReadGivesNull()
 void tst_QssLoader::pathThatIsNoneGivesNull_data()
 {
     QTest::addColumn<QString>("path");
+    QTest::newRow("null") << QString();
+    QTest::newRow("empty") << QStringLiteral("");
     QTest::newRow("the root directory") << QStringLiteral("/");
     QTest::newRow("a missing resource") << QStringLiteral(":/missing.qss");
     QTest::newRow("a NUL character") << QString(QChar(0));
