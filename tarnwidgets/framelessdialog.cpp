@@ -173,11 +173,8 @@ void FramelessDialog::setLayout(QLayout *layout)
 {
     if (!layout || layout == d->m_pContentLayout)
         return;
-    // A layout made with the dialog as its parent found that place taken, and is free for this one.
-    if (layout->parent() == this && layout != m_pMainLayout)
-        layout->setParent(nullptr);
     if (layout->parent()) {
-        qWarning("FramelessDialog::setLayout: the layout belongs to another widget or layout");
+        qWarning("%s The layout belongs to another widget or layout.", Q_FUNC_INFO);
         return;
     }
     layout->setContentsMargins(layout->contentsMargins() + QMargins(1, 0, 1, 0));
