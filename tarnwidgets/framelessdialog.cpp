@@ -11,6 +11,9 @@
 #include <QEvent>
 #include <QFrame>
 #include <QGuiApplication>
+#include <QImage>
+#include <QPaintEngine>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPointer>
@@ -40,6 +43,71 @@ QSize primaryScreenSize()
 {
     const QScreen *screen = QGuiApplication::primaryScreen();
     return screen ? screen->availableGeometry().size() : QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+}
+
+/* Unlike QPainter::fillRect() this covers every pixel wholly that lies inside, however it is clipped. */
+void fillGround(QPainter *painter, const QRectF &ground)
+{
+    QPainterPath path;
+    path.setFillRule(Qt::WindingFill);
+    path.addRect(ground);
+    painter->fillPath(path, FramelessDialog::m_defaultBackgroundColor);
+}
+
+/* The two steps that drawSolidBorder() stands for. */
+void drawGroundAndOutline(QPainter *painter, const QSize &size)
+{
+    painter->setRenderHint(QPainter::Antialiasing);
+    fillGround(painter, QRectF(1, 1, size.width() - 2, size.height() - 2));
+    painter->setPen(QPen(FramelessDialog::m_defaultBorderColor, 1));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(QRectF(0, 0, size.width() - 1, size.height() - 1));
+}
+
+bool isWhole(qreal value)
+{
+    return value == std::floor(value);
+}
+
+/*
+ * Whether filled rectangles give the very pixels of the antialiased steps: where the painter's pixels are the
+ * dialog's, and colors are blended with 8 bits a channel.
+ */
+bool isPixelByPixel(const QPainter &painter)
+{
+    const QTransform &transform = painter.deviceTransform();
+    if (transform.type() > QTransform::TxTranslate || !isWhole(transform.dx()) || !isWhole(transform.dy())
+        || painter.hasClipping() || painter.compositionMode() != QPainter::CompositionMode_SourceOver)
+        return false;
+    const auto *image = dynamic_cast<const QImage *>(painter.paintEngine()->paintDevice());
+    return image
+        && (image->format() == QImage::Format_ARGB32_Premultiplied
+            || image->format() == QImage::Format_RGB32);
+}
+
+/*
+ * The antialiased outline, one pixel wide along whole coordinates: half of it lies on the pixels before its
+ * lines and half on those behind, and each line ends before the next one begins.
+ */
+void fillOutline(QPainter *painter, const QSize &size, const QRect &exposed)
+{
+    // Reduced to 8 bits first, as the antialiased pen reduces it.
+    QColor before(FramelessDialog::m_defaultBorderColor.rgba64().toArgb32());
+    QColor behind = before;
+    before.setAlpha(127);
+    behind.setAlpha(128);
+    const int right = size.width() - 1;
+    const int bottom = size.height() - 1;
+    const auto fill = [painter, &exposed](const QRect &line, const QColor &color) {
+        if (line.intersects(exposed))
+            painter->fillRect(line, color);
+    };
+    fill(QRect(0, 0, right, 1), behind);
+    fill(QRect(right - 1, 0, 1, bottom), before);
+    fill(QRect(right, 0, 1, bottom), behind);
+    fill(QRect(0, bottom - 1, right, 1), before);
+    fill(QRect(0, bottom, right, 1), behind);
+    fill(QRect(0, 0, 1, bottom), behind);
 }
 
 } // namespace
@@ -417,21 +485,31 @@ void FramelessDialog::paintEvent(QPaintEvent *event)
     drawSolidBorder(event);
 }
 
-void FramelessDialog::drawSolidBorder(QPaintEvent *)
+void FramelessDialog::drawSolidBorder(QPaintEvent *event)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(QRectF(1, 1, width() - 2, height() - 2), m_defaultBackgroundColor);
-    painter.setPen(QPen(m_defaultBorderColor, 1));
-    painter.drawRect(QRectF(0, 0, width() - 1, height() - 1));
+    if (width() < 3 || height() < 3 || m_defaultBorderColor.alpha() < 255 || !isPixelByPixel(painter)) {
+        drawGroundAndOutline(&painter, size());
+        return;
+    }
+    const QRect ground = rect().adjusted(1, 1, -1, -1);
+    const QRect clearOfOutline = ground.adjusted(0, 0, -1, -1);
+    const QRegion exposed = event ? event->region() : rect();
+    for (const QRect &part : exposed) {
+        // Qt clips to one rectangle much faster than to a region.
+        if (exposed.rectCount() > 1)
+            painter.setClipRect(part);
+        painter.fillRect(ground, m_defaultBackgroundColor);
+        if (!clearOfOutline.contains(part))
+            fillOutline(&painter, size(), part);
+    }
 }
 
 void FramelessDialog::drawShadowBorder(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(QRectF(rect()).adjusted(ShadowDepth, ShadowDepth, -ShadowDepth, -ShadowDepth),
-                     m_defaultBackgroundColor);
+    fillGround(&painter, QRectF(rect()).adjusted(ShadowDepth, ShadowDepth, -ShadowDepth, -ShadowDepth));
     QColor shadow(Qt::black);
     for (int ring = 0; ring < ShadowDepth; ++ring) {
         const qreal inset = ShadowDepth - ring;

@@ -34,6 +34,14 @@ Qt::CursorShape cursorShape(const CursorPosCalculator &position)
     return Qt::SizeVerCursor;
 }
 
+/* What QWidget::mapToGlobal() gives, without its long search for what the widget may be embedded in. */
+QPoint toGlobal(const QWidget *widget, const QPoint &pos)
+{
+    if (!widget->isWindow() || widget->graphicsProxyWidget())
+        return widget->mapToGlobal(pos);
+    return widget->geometry().topLeft() + pos;
+}
+
 /* Moves the pressed sides of frame to pos. A corner wins over a side, left over right, top over bottom. */
 QRect withPressedSidesAt(const QRect &frame, const CursorPosCalculator &pressed, const QPoint &pos)
 {
@@ -108,16 +116,20 @@ void CursorPosCalculator::recalculate(const QPoint &globalPos, const QRect &fram
     const qint64 right = left + frameRect.width();
     const qint64 bottom = top + frameRect.height();
 
-    m_bOnLeftEdge = isBetween(globalPos.x(), left, left + border);
-    m_bOnRightEdge = isBetween(globalPos.x(), right - border, right);
-    m_bOnTopEdge = isBetween(globalPos.y(), top, top + border);
-    m_bOnBottomEdge = isBetween(globalPos.y(), bottom - border, bottom);
+    const bool onLeft = isBetween(globalPos.x(), left, left + border);
+    const bool onRight = isBetween(globalPos.x(), right - border, right);
+    const bool onTop = isBetween(globalPos.y(), top, top + border);
+    const bool onBottom = isBetween(globalPos.y(), bottom - border, bottom);
 
-    m_bOnTopLeftEdge = m_bOnTopEdge && m_bOnLeftEdge;
-    m_bOnBottomLeftEdge = m_bOnBottomEdge && m_bOnLeftEdge;
-    m_bOnTopRightEdge = m_bOnTopEdge && m_bOnRightEdge;
-    m_bOnBottomRightEdge = m_bOnBottomEdge && m_bOnRightEdge;
-    m_bOnEdges = m_bOnLeftEdge || m_bOnRightEdge || m_bOnTopEdge || m_bOnBottomEdge;
+    m_bOnEdges = onLeft || onRight || onTop || onBottom;
+    m_bOnLeftEdge = onLeft;
+    m_bOnRightEdge = onRight;
+    m_bOnTopEdge = onTop;
+    m_bOnBottomEdge = onBottom;
+    m_bOnTopLeftEdge = onTop && onLeft;
+    m_bOnBottomLeftEdge = onBottom && onLeft;
+    m_bOnTopRightEdge = onTop && onRight;
+    m_bOnBottomRightEdge = onBottom && onRight;
 }
 
 WidgetData::WidgetData(FramelessHelperPrivate *d, QWidget *widget)
@@ -242,11 +254,11 @@ void WidgetData::handleLeaveEvent(QEvent *)
 void WidgetData::handleHoverMoveEvent(QHoverEvent *event)
 {
     if (d->m_bWidgetResizable)
-        updateCursorShape(m_pWidget->mapToGlobal(event->pos()));
+        updateCursorShape(toGlobal(m_pWidget, event->pos()));
 }
 
-// A slot or handler that hears of the new geometry may delete the helper: nothing of it is touched after the
-// change.
+// A slot or handler that hears of a new geometry or cursor may delete the helper: nothing of it is touched
+// after the change.
 
 void WidgetData::moveWidget(const QPoint &globalPos)
 {
@@ -268,7 +280,7 @@ void WidgetData::resizeWidget(const QPoint &globalPos)
 
 void WidgetData::updateCursorShape(const QPoint &globalPos)
 {
-    if (m_pWidget->isFullScreen() || m_pWidget->isMaximized()) {
+    if (m_pWidget->windowState() & (Qt::WindowFullScreen | Qt::WindowMaximized)) {
         if (m_bCursorShapeChanged)
             m_pWidget->unsetCursor();
         return;
@@ -276,17 +288,19 @@ void WidgetData::updateCursorShape(const QPoint &globalPos)
     m_moveMousePos.recalculate(globalPos, m_pWidget->frameGeometry());
     if (m_moveMousePos.m_bOnEdges) {
         setCursorShape(cursorShape(m_moveMousePos));
-        m_bCursorShapeChanged = true;
     } else if (m_bCursorShapeChanged) {
-        m_pWidget->unsetCursor();
         m_bCursorShapeChanged = false;
+        m_pWidget->unsetCursor();
     }
 }
 
 void WidgetData::setCursorShape(Qt::CursorShape shape)
 {
     // Setting a cursor costs far more than asking for it, and the pointer mostly stays in one zone.
-    if (!m_pWidget->testAttribute(Qt::WA_SetCursor) || m_pWidget->cursor().shape() != shape)
+    const bool isSet = m_bCursorShapeChanged && m_pWidget->testAttribute(Qt::WA_SetCursor)
+        && m_pWidget->cursor().shape() == shape;
+    m_bCursorShapeChanged = true;
+    if (!isSet)
         m_pWidget->setCursor(shape);
 }
 
@@ -301,6 +315,16 @@ void FramelessHelperPrivate::updateRubberBands()
 {
     for (WidgetData *data : qAsConst(m_widgetDataHash))
         data->updateRubberBandStatus();
+}
+
+bool FramelessHelperPrivate::handleEvent(QObject *watched, QEvent *event)
+{
+    if (!watched->isWidgetType())
+        return false;
+    WidgetData *data = m_widgetDataHash.value(static_cast<QWidget *>(watched));
+    if (data)
+        data->handleWidgetEvent(event);
+    return data;
 }
 
 FramelessHelper::FramelessHelper(QObject *parent)
@@ -414,12 +438,8 @@ bool FramelessHelper::eventFilter(QObject *watched, QEvent *event)
     case QEvent::MouseMove:
     case QEvent::Leave:
     case QEvent::HoverMove:
-        if (!watched->isWidgetType())
-            break;
-        if (WidgetData *data = d->m_widgetDataHash.value(static_cast<QWidget *>(watched))) {
-            data->handleWidgetEvent(event);
+        if (d->handleEvent(watched, event))
             return true;
-        }
         break;
     default:
         break;

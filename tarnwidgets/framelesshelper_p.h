@@ -15,6 +15,7 @@
 class QEvent;
 class QHoverEvent;
 class QMouseEvent;
+class QObject;
 class QWidget;
 
 namespace Tarn::Widgets {
@@ -52,6 +53,12 @@ public:
     ~FramelessHelperPrivate();
 
     void updateRubberBands();
+
+    /*!
+     * Returns whether \a event was for a managed widget and is dealt with. Never
+     * inline, because the filter around it sees every event of every widget.
+     */
+    Q_NEVER_INLINE bool handleEvent(QObject *watched, QEvent *event);
 
     QHash<QWidget *, WidgetData *> m_widgetDataHash; // owns its values
     bool m_bWidgetMovable = true;

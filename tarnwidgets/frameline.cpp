@@ -12,8 +12,7 @@ namespace {
 
 QFrame *createLine(const QString &propertyName, QWidget *parent, const uint &lineWidth)
 {
-    auto *line = new QFrame(parent);
-    line->setFrameShadow(QFrame::Plain);
+    auto *line = new QFrame(parent); // with a plain shadow from the start
     line->setLineWidth(int(lineWidth));
     line->setProperty(propertyName.toUtf8().constData(), true);
     return line;

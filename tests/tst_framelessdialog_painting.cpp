@@ -9,6 +9,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPicture>
 #include <QRandomGenerator>
 #include <QTest>
 #include <QVBoxLayout>
@@ -63,6 +64,19 @@ protected:
     {
         drawSolidBorder(event);
         QPainter(this).fillRect(20, 20, 1, 1, Qt::red);
+    }
+};
+
+// Passes no event on.
+class EventlessDialog : public Dialog
+{
+public:
+    using Dialog::Dialog;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        drawSolidBorder(nullptr);
     }
 };
 
@@ -155,25 +169,15 @@ QImage shadowReference(const Look &look, qreal ratio, const QRegion &region = QR
     return painted(reference, ratio, region);
 }
 
-bool isNear(QRgb is, QRgb shall, int tolerance)
-{
-    return qAbs(qAlpha(is) - qAlpha(shall)) <= tolerance && qAbs(qRed(is) - qRed(shall)) <= tolerance
-        && qAbs(qGreen(is) - qGreen(shall)) <= tolerance && qAbs(qBlue(is) - qBlue(shall)) <= tolerance;
-}
-
-// Where points are whole pixels, every pixel is equal. Elsewhere the sides cut through pixels, and how much
-// of such a one is covered may be rounded either way.
 QString firstDifference(const QImage &actual, const QImage &expected)
 {
     if (actual.size() != expected.size())
         return QStringLiteral("sizes differ");
-    const qreal ratio = actual.devicePixelRatioF();
-    const int tolerance = ratio == std::floor(ratio) ? 0 : 1;
     for (int y = 0; y < actual.height(); ++y) {
         for (int x = 0; x < actual.width(); ++x) {
             const QRgb is = reinterpret_cast<const QRgb *>(actual.constScanLine(y))[x];
             const QRgb shall = reinterpret_cast<const QRgb *>(expected.constScanLine(y))[x];
-            if (!isNear(is, shall, tolerance)) {
+            if (is != shall) {
                 return QStringLiteral("at (%1, %2): #%3 instead of #%4")
                     .arg(x)
                     .arg(y)
@@ -228,11 +232,25 @@ QRegion randomRegion(QRandomGenerator &random, const QSize &size)
     return region;
 }
 
+QImage noise(QRandomGenerator &random, const QSize &size, QImage::Format format)
+{
+    QImage image(size, QImage::Format_ARGB32);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x)
+            image.setPixel(x, y, random.generate());
+    }
+    return image.convertToFormat(format);
+}
+
+// Something done to a painter before a widget is rendered with it.
+using Setting = void (*)(QPainter &painter);
+
 const Look DefaultLook = {QSize(200, 120), QColor(69, 69, 69), QColor(56, 56, 56)};
 
 } // namespace
 
 Q_DECLARE_METATYPE(QRegion)
+Q_DECLARE_METATYPE(Setting)
 
 class tst_FramelessDialogPainting : public QObject
 {
@@ -257,6 +275,13 @@ private Q_SLOTS:
     void partOfTheSolidBorderLooksAsInTheSteps();
     void randomPartsOfTheSolidBorderLookAsInTheSteps_data();
     void randomPartsOfTheSolidBorderLookAsInTheSteps();
+    void solidBorderIsTheSameInEveryShade();
+    void solidBorderIsBlendedWithWhatIsThere_data();
+    void solidBorderIsBlendedWithWhatIsThere();
+    void solidBorderObeysThePainterItIsRenderedWith_data();
+    void solidBorderObeysThePainterItIsRenderedWith();
+    void solidBorderIsRecordedInFull();
+    void solidBorderNeedsNoEvent();
     void colorsCountAtTheTimeOfThePaint();
     void shadowIsPaintedOnRequest_data();
     void shadowIsPaintedOnRequest();
@@ -435,6 +460,156 @@ void tst_FramelessDialogPainting::randomPartsOfTheSolidBorderLookAsInTheSteps()
         // THEN it looks as the steps give it there
         const QString difference = firstDifference(actual, solidReference(look, ratio, region));
         QVERIFY2(difference.isEmpty(), described(look, difference).constData());
+    }
+}
+
+void tst_FramelessDialogPainting::solidBorderIsTheSameInEveryShade()
+{
+    Dialog dialog(QSize(16, 16));
+    for (int shade = 0; shade <= 0xffff; shade += 85) {
+        // GIVEN a shade, most of them finer than 8 bits can tell
+        const QColor color =
+            QColor::fromRgba64(ushort(shade), ushort(0xffff - shade), ushort(shade ^ 0x5555));
+        const Look look = {dialog.size(), color.lighter(), color};
+        apply(look);
+
+        // THEN the dialog looks as the steps give it
+        const QString difference = firstDifference(painted(dialog, 1), solidReference(look, 1));
+        QVERIFY2(difference.isEmpty(), described(look, difference).constData());
+    }
+}
+
+void tst_FramelessDialogPainting::solidBorderIsBlendedWithWhatIsThere_data()
+{
+    QTest::addColumn<QImage::Format>("format");
+    QTest::newRow("premultiplied") << QImage::Format_ARGB32_Premultiplied;
+    QTest::newRow("opaque") << QImage::Format_RGB32;
+    QTest::newRow("not premultiplied") << QImage::Format_ARGB32;
+    QTest::newRow("bytes in another order") << QImage::Format_RGBA8888_Premultiplied;
+    QTest::newRow("16 bits a pixel") << QImage::Format_RGB16;
+    QTest::newRow("16 bits a channel") << QImage::Format_RGBA64_Premultiplied;
+    QTest::newRow("10 bits a channel") << QImage::Format_A2RGB30_Premultiplied;
+    QTest::newRow("grey") << QImage::Format_Grayscale8;
+}
+
+void tst_FramelessDialogPainting::solidBorderIsBlendedWithWhatIsThere()
+{
+    QFETCH(QImage::Format, format);
+
+    QRandomGenerator random(2028);
+    for (int i = 0; i < 20; ++i) {
+        // GIVEN a picture of noise, larger than the dialog
+        const Look look = randomLook(random, 1, i % 3 == 0);
+        QImage actual = noise(random, look.size + QSize(20, 20), format);
+        QImage expected = actual;
+        const QPoint place(random.bounded(20), random.bounded(20));
+
+        // WHEN the dialog is rendered into it
+        Dialog dialog(look.size);
+        apply(look);
+        dialog.render(&actual, place, QRegion(), QWidget::RenderFlags());
+        QVERIFY(actual != expected);
+
+        // THEN the picture is the one that the steps give
+        Reference(look, &solidSteps).render(&expected, place, QRegion(), QWidget::RenderFlags());
+        QVERIFY2(actual == expected, described(look, QStringLiteral("the pictures differ")).constData());
+    }
+}
+
+void tst_FramelessDialogPainting::solidBorderObeysThePainterItIsRenderedWith_data()
+{
+    QTest::addColumn<Setting>("setting");
+    const auto row = [](const char *name, Setting setting) { QTest::newRow(name) << setting; };
+    row("as it comes", [](QPainter &) {});
+    row("a few pixels off", [](QPainter &painter) { painter.translate(7, -3); });
+    row("half a pixel off", [](QPainter &painter) { painter.translate(0.5, 2.25); });
+    row("enlarged", [](QPainter &painter) { painter.scale(1.7, 2); });
+    row("mirrored", [](QPainter &painter) {
+        painter.translate(200, 0);
+        painter.scale(-1, 1);
+    });
+    row("turned by a quarter", [](QPainter &painter) {
+        painter.translate(200, 0);
+        painter.rotate(90);
+    });
+    row("turned a little", [](QPainter &painter) { painter.rotate(11); });
+    row("sheared", [](QPainter &painter) { painter.shear(0.1, 0.2); });
+    row("through a window", [](QPainter &painter) { painter.setWindow(0, 0, 150, 150); });
+    row("adding", [](QPainter &painter) { painter.setCompositionMode(QPainter::CompositionMode_Plus); });
+    row("replacing", [](QPainter &painter) { painter.setCompositionMode(QPainter::CompositionMode_Source); });
+    row("half opaque", [](QPainter &painter) { painter.setOpacity(0.5); });
+    row("with a brush of its own", [](QPainter &painter) { painter.setBrush(Qt::green); });
+    row("antialiased and smooth", [](QPainter &painter) {
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    });
+    row("clipped to a rectangle", [](QPainter &painter) { painter.setClipRect(20, 20, 90, 70); });
+    row("clipped to a circle", [](QPainter &painter) {
+        QPainterPath circle;
+        circle.addEllipse(QRectF(5.5, 3, 140, 100));
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setClipPath(circle);
+    });
+}
+
+void tst_FramelessDialogPainting::solidBorderObeysThePainterItIsRenderedWith()
+{
+    QFETCH(Setting, setting);
+
+    QRandomGenerator random(2029);
+    for (int i = 0; i < 6; ++i) {
+        // GIVEN a painter that was set up in some way, on a picture of noise
+        const Look look = randomLook(random, 1, i % 3 == 0);
+        const QImage ground = noise(random, QSize(250, 250), QImage::Format_ARGB32_Premultiplied);
+        const auto renderedOn = [&ground, setting](QWidget &widget) {
+            QImage image = ground;
+            QPainter painter(&image);
+            setting(painter);
+            widget.render(&painter, QPoint(), QRegion(), QWidget::RenderFlags());
+            return image;
+        };
+
+        // WHEN the dialog is rendered with it
+        Dialog dialog(look.size);
+        apply(look);
+        const QImage actual = renderedOn(dialog);
+
+        // THEN the picture is the one that the steps give
+        Reference reference(look, &solidSteps);
+        const QString difference = firstDifference(actual, renderedOn(reference));
+        QVERIFY2(difference.isEmpty(), described(look, difference).constData());
+    }
+}
+
+void tst_FramelessDialogPainting::solidBorderIsRecordedInFull()
+{
+    // GIVEN a dialog that was rendered into a picture that records what is painted
+    Dialog dialog(DefaultLook.size);
+    QPicture picture;
+    dialog.render(&picture, QPoint(), QRegion(), QWidget::RenderFlags());
+
+    // WHEN the picture is played at three times the size
+    const auto played = [](const QPicture &picture) {
+        QImage image = clearImage(DefaultLook.size * 3, 1);
+        QPainter painter(&image);
+        painter.scale(3, 3);
+        painter.drawPicture(0, 0, picture);
+        return image;
+    };
+
+    // THEN it is as sharp as the steps
+    QPicture expected;
+    Reference(DefaultLook, &solidSteps).render(&expected, QPoint(), QRegion(), QWidget::RenderFlags());
+    QVERIFY(played(picture) != clearImage(DefaultLook.size * 3, 1));
+    QCOMPARE(firstDifference(played(picture), played(expected)), QString());
+}
+
+void tst_FramelessDialogPainting::solidBorderNeedsNoEvent()
+{
+    const QRegion region(0, 10, 50, 20);
+    for (const qreal ratio : {1.0, 1.5}) {
+        EventlessDialog dialog(DefaultLook.size);
+        QCOMPARE(firstDifference(painted(dialog, ratio, region), solidReference(DefaultLook, ratio, region)),
+                 QString());
     }
 }
 
