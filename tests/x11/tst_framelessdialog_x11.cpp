@@ -98,7 +98,7 @@ using PlaceIn = std::function<QPoint(const Desktop &, const Dialog &)>;
 using ButtonOf = std::function<QWidget *(Dialog &)>;
 using Action = std::function<void(Dialog &)>;
 
-enum class Kind { Modeless, Modal, Orphan };
+enum class Kind { Modeless, Modal, Opened, Orphan };
 
 enum class Rival { MainWindow, OtherProgram };
 
@@ -800,6 +800,7 @@ void tst_FramelessDialog_x11::pressGivesTheKeyboard_data()
         {"modeless, after the main window", {Kind::Modeless, Rival::MainWindow}},
         {"modeless, after another program", {Kind::Modeless, Rival::OtherProgram}},
         {"modal, after another program", {Kind::Modal, Rival::OtherProgram}},
+        {"opened, after another program", {Kind::Opened, Rival::OtherProgram}},
         {"without a parent, after another program", {Kind::Orphan, Rival::OtherProgram}},
     };
     for (const auto &situation : situations) {
@@ -822,7 +823,11 @@ void tst_FramelessDialog_x11::pressGivesTheKeyboard()
     Dialog dialog(situation.kind == Kind::Orphan ? nullptr : &mainWindow);
     dialog.setModal(situation.kind == Kind::Modal);
     const Qt::WindowFlags flags = dialog.windowFlags();
-    QVERIFY(m_desktop->show(&dialog));
+    if (situation.kind == Kind::Opened)
+        dialog.open();
+    else
+        dialog.show();
+    QVERIFY(m_desktop->isShown(&dialog));
     std::optional<OtherProgram> program;
     if (situation.rival == Rival::MainWindow) {
         QVERIFY(m_desktop->input.click(m_desktop->center(mainWindow.field)));
@@ -859,6 +864,17 @@ void tst_FramelessDialog_x11::pressCountsInEveryNativeWindow_data()
     QTest::newRow("child that gets one later") << Action([](Dialog &dialog) {
         dialog.show();
         dialog.label->winId();
+    });
+    QTest::newRow("child that brings one along") << Action([](Dialog &dialog) {
+        dialog.show();
+        QWidget formerWindow;
+        formerWindow.setAttribute(Qt::WA_TranslucentBackground); // X11 moves windows of one color depth only
+        auto *panel = new QWidget(&formerWindow);
+        dialog.label->setParent(panel);
+        dialog.label->winId();
+        auto *layout = new QVBoxLayout(panel);
+        layout->addWidget(dialog.label);
+        dialog.getContentHolder()->layout()->addWidget(panel);
     });
     QTest::newRow("dialog that gets a new one") << Action([](Dialog &dialog) {
         dialog.show();

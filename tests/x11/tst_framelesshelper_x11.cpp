@@ -270,15 +270,23 @@ void tst_FramelessHelper_x11::sidesDoNotPassEachOther()
     panel.setMinimumSize(0, 0);
     QVERIFY(m_desktop->show(&panel));
 
-    // WHEN a side is pulled beyond the opposite one
+    // WHEN a side is pulled to the first pixel beyond the opposite one, and further
+    const bool isUpright = zone.edges & (Qt::TopEdge | Qt::BottomEdge);
+    const int extent = isUpright ? Place.height() : Place.width();
     const QPoint start = zone.grip(Place);
     QVERIFY(m_desktop->input.moveTo(start));
     QVERIFY(m_desktop->input.press());
-    QVERIFY(m_desktop->input.moveTo(start + zone.outwards(-450)));
-    QVERIFY(m_desktop->input.release());
+    for (const int distance : {extent, extent + 50}) {
+        QVERIFY(m_desktop->input.moveTo(start + zone.outwards(-distance)));
 
-    // THEN nothing has changed
-    QCOMPARE(m_desktop->geometry(&panel), Place);
+        // THEN nothing changes
+        QCOMPARE(m_desktop->geometry(&panel), Place);
+    }
+
+    // WHEN it is pulled to just before that, THEN it follows
+    const QPoint end = start + zone.outwards(1 - extent);
+    QVERIFY(m_desktop->input.moveTo(end));
+    QTRY_COMPARE(m_desktop->geometry(&panel), zone.resized(Place, end));
 }
 
 void tst_FramelessHelper_x11::unresizableWindowKeepsItsSize_data()

@@ -185,9 +185,10 @@ void tst_FramelessWindow_x11::dragStartsLeftOfTheButtonStrip()
 
 void tst_FramelessWindow_x11::otherButtonsDoNotDrag()
 {
-    // GIVEN a window
+    // GIVEN a window that was pressed, and let go, with the left button before
     Window window;
     QVERIFY(m_desktop->show(&window));
+    QVERIFY(m_desktop->input.click(titlePoint() + QPoint(10, 0)));
 
     // WHEN it is dragged with the right button
     QVERIFY(m_desktop->input.moveTo(titlePoint()));

@@ -41,6 +41,8 @@ XInput::XInput(const XServer *server)
 
 XInput::~XInput()
 {
+    if (!m_server->isConnected())
+        return;
     const QSet<Qt::MouseButton> held = m_held;
     for (const Qt::MouseButton button : held)
         sendButton(button, false);
