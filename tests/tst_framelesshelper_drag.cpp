@@ -5,6 +5,8 @@
 #include "support/functionguard.h"
 #include "support/managedpanel.h"
 
+#include <QGraphicsScene>
+#include <QGraphicsView>
 #include <QMouseEvent>
 #include <QTest>
 #include <limits>
@@ -20,6 +22,27 @@ static void moveAlone(FramelessHelper &helper, Panel &panel, const QPointF &glob
     const QPointF local = global - toGlobal(&panel, QPointF());
     QMouseEvent event(QEvent::MouseMove, local, local, global, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QVERIFY(helper.eventFilter(&panel, &event));
+}
+
+/* Whether the cursor shows, at each place of a row through the widget, what the place on the screen asks for.
+ */
+static void checkHoverAlongARow(QWidget &widget)
+{
+    const QRect frame = widget.frameGeometry();
+    int inZone = 0;
+    int outside = 0;
+    for (int x = -200; x < 400; ++x) {
+        const QPoint place(x, 50);
+        const QPoint global = widget.mapToGlobal(place);
+        const bool isOnLeft = frame.x() <= global.x() && global.x() <= frame.x() + 5;
+        const bool isOnRight =
+            frame.x() + frame.width() - 5 <= global.x() && global.x() <= frame.x() + frame.width();
+        hoverMove(&widget, place);
+        QCOMPARE(hasOwnCursor(widget), isOnLeft || isOnRight);
+        ++(isOnLeft || isOnRight ? inZone : outside);
+    }
+    QCOMPARE(inZone, 12);
+    QVERIFY(outside > 0);
 }
 
 class tst_FramelessHelperDrag : public QObject
@@ -44,6 +67,8 @@ private Q_SLOTS:
     void borderWiderThanTheWidgetLeavesNoMiddle_data();
     void borderWiderThanTheWidgetLeavesNoMiddle();
     void zonesAreThoseOfTheFrameNotOfTheContents();
+    void hoverOverAChildCountsOnTheScreen();
+    void hoverOverAnEmbeddedWidgetCountsOnTheScreen();
     void cursorGoesBackWhenThePointerComesOffTheBorder();
     void cursorOfTheApplicationStaysOffTheBorder();
     void leaveTakesEveryCursorAway();
@@ -238,6 +263,38 @@ void tst_FramelessHelperDrag::zonesAreThoseOfTheFrameNotOfTheContents()
     QCOMPARE(panel.cursor().shape(), Qt::SizeHorCursor);
     hoverMove(&panel, lastColumn + QPoint(1, 0));
     QCOMPARE(panel.cursor().shape(), Qt::ArrowCursor);
+}
+
+void tst_FramelessHelperDrag::hoverOverAChildCountsOnTheScreen()
+{
+    // GIVEN a managed widget that is no window: its frame counts from its parent
+    Panel parent(Frame);
+    QWidget child(&parent);
+    child.setGeometry(20, 30, 100, 100);
+    child.show();
+    FramelessHelper helper;
+    helper.activateOn(&child);
+    QVERIFY(child.mapToGlobal(QPoint()) != child.frameGeometry().topLeft());
+
+    checkHoverAlongARow(child);
+}
+
+void tst_FramelessHelperDrag::hoverOverAnEmbeddedWidgetCountsOnTheScreen()
+{
+    // GIVEN a managed widget in a graphics view: its frame counts from the scene
+    QGraphicsScene scene(0, 0, 180, 130);
+    auto *widget = new QWidget;
+    widget->setGeometry(40, 10, 100, 100);
+    scene.addWidget(widget);
+    QGraphicsView view(&scene);
+    view.setGeometry(Frame);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    FramelessHelper helper;
+    helper.activateOn(widget);
+    QVERIFY(widget->mapToGlobal(QPoint()) != widget->frameGeometry().topLeft());
+
+    checkHoverAlongARow(*widget);
 }
 
 void tst_FramelessHelperDrag::cursorGoesBackWhenThePointerComesOffTheBorder()
