@@ -6,6 +6,7 @@
 #include "framelesshelper.h"
 #include "frameline.h"
 #include "titlebar.h"
+#include "titlebuttons_p.h"
 #include "toplevelwindow_p.h"
 
 #include <QEvent>
@@ -25,13 +26,6 @@
 namespace Tarn::Widgets {
 
 namespace {
-
-// Indices of title buttons.
-constexpr int LogoButton = 0;
-constexpr int MinButton = 1;
-constexpr int MaxButton = 2;
-constexpr int RestoreButton = 3;
-constexpr int CloseButton = 4;
 
 constexpr int ContentIndex = 2; // in the main layout: below the title bar and the upper line
 constexpr int SeparatorHeight = 2;
@@ -54,7 +48,10 @@ void fillGround(QPainter *painter, const QRectF &ground)
     painter->fillPath(path, FramelessDialog::m_defaultBackgroundColor);
 }
 
-/* The two steps that drawSolidBorder() stands for. */
+/*
+ * The two steps that drawSolidBorder() stands for.
+ * Kept: the pen runs along whole coordinates, so that each side of the outline is half covered.
+ */
 void drawGroundAndOutline(QPainter *painter, const QSize &size)
 {
     painter->setRenderHint(QPainter::Antialiasing);
@@ -245,7 +242,7 @@ void FramelessDialog::setLayout(QLayout *layout)
         qWarning("%s The layout belongs to another widget or layout.", Q_FUNC_INFO);
         return;
     }
-    layout->setContentsMargins(layout->contentsMargins() + QMargins(1, 0, 1, 0));
+    layout->setContentsMargins(layout->contentsMargins() + QMargins(1, 0, 1, 0)); // Kept: clear of the border
     m_pMainLayout->insertLayout(ContentIndex, layout);
     d->m_pContentLayout = layout;
 }
@@ -321,7 +318,7 @@ void FramelessDialog::setMaxButtonVisible(bool visible)
     if (visible)
         m_pTitleBar->setMaximized(isMaximized());
     else
-        setDialogResizable(false);
+        setDialogResizable(false); // Kept: showing the buttons does not undo it
 }
 
 void FramelessDialog::setCloseButtonVisible(bool visible)
@@ -407,7 +404,6 @@ void FramelessDialog::swithMaxNormal()
 void FramelessDialog::show()
 {
     QDialog::show();
-    d->m_platformWindow.placeByState();
     m_pTitleBar->setMaximized(isMaximized());
 }
 
@@ -419,20 +415,17 @@ void FramelessDialog::showMinimized()
 void FramelessDialog::showMaximized()
 {
     QDialog::showMaximized();
-    d->m_platformWindow.placeByState();
     m_pTitleBar->setMaximized(true);
 }
 
 void FramelessDialog::showFullScreen()
 {
     QDialog::showFullScreen();
-    d->m_platformWindow.placeByState();
 }
 
 void FramelessDialog::showNormal()
 {
     QDialog::showNormal();
-    d->m_platformWindow.placeByState();
     m_pTitleBar->setMaximized(false);
 }
 
@@ -448,21 +441,13 @@ int FramelessDialog::exec()
 
 bool FramelessDialog::event(QEvent *event)
 {
-    switch (event->type()) {
-    case QEvent::WinIdChange:
-        d->m_platformWindow.nativeWindowChanged();
-        break;
-    case QEvent::Show:
-        if (!event->spontaneous() && !testAttribute(Qt::WA_ShowWithoutActivating))
-            d->m_platformWindow.takeKeyboard();
-        break;
-    case QEvent::Hide:
-        if (!event->spontaneous())
-            d->m_platformWindow.returnKeyboard();
-        break;
-    default:
-        break;
-    }
+    d->m_platformWindow.handleEvent(event);
+    // The window manager, which the dialog bypasses, gives it the keyboard neither now nor back.
+    if (event->type() == QEvent::Show && !event->spontaneous()
+        && !testAttribute(Qt::WA_ShowWithoutActivating))
+        d->m_platformWindow.takeKeyboard();
+    else if (event->type() == QEvent::Hide && !event->spontaneous())
+        d->m_platformWindow.returnKeyboard();
     return QDialog::event(event);
 }
 
