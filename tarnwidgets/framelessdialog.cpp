@@ -426,6 +426,7 @@ void FramelessDialog::showFullScreen()
 void FramelessDialog::showNormal()
 {
     QDialog::showNormal();
+    d->m_platformWindow.placeByState(); // a drag of the maximised dialog has ended the state without an event
     m_pTitleBar->setMaximized(false);
 }
 

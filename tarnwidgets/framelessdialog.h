@@ -145,8 +145,10 @@ public:
     void swithMaxNormal();
 
 public Q_SLOTS:
-    /*! \note The five hide the functions of the same names in QWidget and keep the title bar's buttons in
-     * step. */
+    /*!
+     * \note The five hide QWidget's functions of the same names. show(),
+     * showMaximized() and showNormal() also set the title bar's buttons.
+     */
     void show();
     void showMinimized();
     void showMaximized();

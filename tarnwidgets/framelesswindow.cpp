@@ -4,6 +4,7 @@
 #include "framelesswindow.h"
 
 #include "titlebar.h"
+#include "titlebuttons_p.h"
 #include "toplevelwindow_p.h"
 
 #include <QFrame>
@@ -21,10 +22,6 @@ namespace {
 // wider.
 constexpr int PressStripWidth = 119;
 constexpr int DoubleClickStripWidth = 120;
-
-// Indices of title buttons.
-constexpr int LogoButton = 0;
-constexpr int MaxButton = 2;
 
 } // namespace
 
@@ -44,14 +41,13 @@ public:
             delete m_pTitleBar;
     }
 
-    /* The rectangle of the bar in the window, without a place: empty where no bar is shown. */
+    /* Empty where no bar is shown. */
     QSize titleBarSize() const
     {
         return m_pTitleBar && m_pTitleBar->parent() ? m_pTitleBar->size() : QSize(0, 0);
     }
 
-    QPointer<TitleBar> m_pTitleBar;
-    QPointer<QFrame> m_pCentralFrame;
+    QPointer<TitleBar> m_pTitleBar; // null once an application has deleted it
     QPointer<QWidget> m_pCentralWidget;
     QPoint m_ptDragPos; // the press, from the frame's top-left corner
     bool m_bPressed = false;
@@ -103,13 +99,15 @@ void FramelessWindow::setCentralWidget(QWidget *widget, bool withTitleBar)
     if (!widget)
         return;
     d->m_pCentralWidget = widget;
-    d->m_pTitleBar->setParent(nullptr);
+    if (d->m_pTitleBar)
+        d->m_pTitleBar->setParent(nullptr);
     QMainWindow::setCentralWidget(createCentralFrame(withTitleBar));
 
     if (d->m_bPlacement) {
         move(0, 0);
         addFramelessFlags();
-        d->m_pTitleBar->setMaximized(true);
+        if (d->m_pTitleBar)
+            d->m_pTitleBar->setMaximized(true);
     }
 }
 
@@ -120,19 +118,19 @@ QFrame *FramelessWindow::createCentralFrame(bool withTitleBar)
     auto *layout = new QVBoxLayout(frame);
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);
-    if (withTitleBar)
+    if (withTitleBar && d->m_pTitleBar) {
         layout->addWidget(d->m_pTitleBar);
+        d->m_pTitleBar->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    }
     layout->addWidget(d->m_pCentralWidget);
-    d->m_pTitleBar->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     d->m_pCentralWidget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 
     // The bar outlives the frame, whoever deletes that: QMainWindow::setCentralWidget() may be called
     // directly.
     connect(frame, &QObject::destroyed, &d->m_platformWindow, [this, frame] {
-        if (d->m_pTitleBar->parent() == frame)
+        if (d->m_pTitleBar && d->m_pTitleBar->parent() == frame)
             d->m_pTitleBar->setParent(nullptr);
     });
-    d->m_pCentralFrame = frame;
     return frame;
 }
 
@@ -153,24 +151,26 @@ TitleBar *FramelessWindow::getTitleBar() const
 
 void FramelessWindow::setWindowTitle(const QString &title)
 {
-    d->m_pTitleBar->setTitle(title);
+    if (d->m_pTitleBar)
+        d->m_pTitleBar->setTitle(title);
     d->m_platformWindow.setTitle(title);
 }
 
 QString FramelessWindow::windowTitle() const
 {
-    return d->m_pTitleBar->title();
+    return d->m_pTitleBar ? d->m_pTitleBar->title() : QString();
 }
 
 void FramelessWindow::setWindowIcon(const QIcon &icon)
 {
-    d->m_pTitleBar->setTitleButtonIcon(LogoButton, icon);
+    if (d->m_pTitleBar)
+        d->m_pTitleBar->setTitleButtonIcon(LogoButton, icon);
     d->m_platformWindow.setIcon(icon);
 }
 
 QIcon FramelessWindow::windowIcon() const
 {
-    return d->m_pTitleBar->titleButtonIcon(LogoButton);
+    return d->m_pTitleBar ? d->m_pTitleBar->titleButtonIcon(LogoButton) : QIcon();
 }
 
 void FramelessWindow::setWindowIconText(const QString &text)
@@ -206,19 +206,17 @@ void FramelessWindow::swithMaxNormal()
         showNormal();
     else
         showMaximized();
-    d->m_platformWindow.placeByState();
 }
 
 bool FramelessWindow::event(QEvent *event)
 {
-    // QWidget gives a native window its own icon: after WinIdChange, and when the application's changes.
-    if (event->type() == QEvent::WinIdChange || event->type() == QEvent::WindowIconChange)
-        d->m_platformWindow.nativeWindowChanged();
+    d->m_platformWindow.handleEvent(event);
     return AppMainWindow::event(event);
 }
 
 void FramelessWindow::mousePressEvent(QMouseEvent *event)
 {
+    // Kept: every press is accepted, and any free area drags the window, not only the title bar.
     event->accept();
     if (event->button() != Qt::LeftButton)
         return;
@@ -238,7 +236,8 @@ void FramelessWindow::mouseMoveEvent(QMouseEvent *event)
 void FramelessWindow::mouseReleaseEvent(QMouseEvent *)
 {
     d->m_bPressed = false;
-    d->m_pTitleBar->clearChecked();
+    if (d->m_pTitleBar)
+        d->m_pTitleBar->clearChecked();
 }
 
 void FramelessWindow::mouseDoubleClickEvent(QMouseEvent *event)
@@ -253,7 +252,7 @@ void FramelessWindow::mouseDoubleClickEvent(QMouseEvent *event)
 bool FramelessWindow::isOverButtonStrip(const QPoint &pos, int stripWidth) const
 {
     const QSize bar = d->titleBarSize();
-    return pos.y() < bar.height() && pos.x() >= bar.width() - stripWidth;
+    return !bar.isEmpty() && pos.y() < bar.height() && pos.x() >= bar.width() - stripWidth;
 }
 
 void FramelessWindow::keyPressEvent(QKeyEvent *event)
@@ -261,7 +260,7 @@ void FramelessWindow::keyPressEvent(QKeyEvent *event)
     // Kept: other keys end here, accepted.
     if (event->key() == Qt::Key_Escape)
         close();
-    else if (event->key() == Qt::Key_F11)
+    else if (event->key() == Qt::Key_F11 && d->m_pTitleBar)
         d->m_pTitleBar->titleButton(MaxButton)->click();
 }
 

@@ -25,7 +25,7 @@ class TitleBar;
  * edges; FramelessDialog is.
  *
  * \code
- * FramelessWindow window(nullptr);
+ * FramelessWindow window;
  * window.setWindowTitle(tr("Monitor"));
  * window.setCentralWidget(new MonitorPage);
  * window.show();
@@ -57,7 +57,7 @@ public:
      * which also moves it to the screen's origin and shows the restore button,
      * as full-screen device applications want it.
      */
-    explicit FramelessWindow(bool placement, QWidget *parent = nullptr);
+    FramelessWindow(bool placement, QWidget *parent);
     ~FramelessWindow() override;
 
     /*!

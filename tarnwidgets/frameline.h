@@ -40,7 +40,7 @@ public:
      * has no frame shape: without a style rule it is invisible.
      *
      * \a propertyName becomes a dynamic property with the value true. The two
-     * margins have no effect; they are there for the layouts of the callers.
+     * margins have no effect: the line comes without a layout of its own.
      */
     static QFrame *createHorizontalLine(const QString &propertyName, QWidget *parent, const uint &lineWidth,
                                         const uint &crossMargin, const uint &endMargin);

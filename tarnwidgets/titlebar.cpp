@@ -3,6 +3,8 @@
 
 #include "titlebar.h"
 
+#include "titlebuttons_p.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QBoxLayout>
@@ -21,8 +23,6 @@ namespace {
 
 constexpr int BarHeight = 24;
 constexpr QSize TitleBarButtonIconSize(30, 20);
-
-enum TitleButton { LogoButton, MinButton, MaxButton, RestoreButton, CloseButton, TitleButtonCount };
 
 constexpr const char *ButtonSelectors[TitleButtonCount] = {"isTitleBarLogoButton", "isTitleBarMinButton",
                                                            "isTitleBarMaxButton", "isTitleBarRestoreButton",
@@ -53,7 +53,7 @@ protected:
     {
         const QRect room = contentsRect();
         const QString elided = fontMetrics().elidedText(text(), Qt::ElideRight, room.width());
-        if (elided == text()) {
+        if (textFormat() != Qt::PlainText || elided == text()) {
             QLabel::paintEvent(event);
             return;
         }
@@ -88,7 +88,7 @@ TitleBarPrivate::TitleBarPrivate(TitleBar *q)
     : q(q)
     , m_pTitleLabel(new TitleLabel(q))
     , m_buttons(TitleButtonCount)
-    , m_buttonsAllowed(TitleButtonCount, true)
+    , m_buttonsAllowed(TitleButtonCount, true) // Kept: maximise and restore alike, until the state is known
     , m_pExtendLayout(new QHBoxLayout)
     , m_mayClose([] { return true; })
 {
@@ -258,6 +258,7 @@ void TitleBar::insertExtendTitleButton(int index, QAction *action, QSize buttonS
 
 void TitleBar::appendCloseEvent(std::function<bool()> mayClose)
 {
+    // Kept: it replaces the former function.
     d->m_mayClose = std::move(mayClose);
 }
 
@@ -303,6 +304,7 @@ QHBoxLayout *TitleBar::getTitleVBarMainLayout() const
 
 void TitleBar::retranslateUi()
 {
+    d->m_buttons.at(LogoButton)->setAccessibleName(tr("Logo"));
     for (int index = MinButton; index <= CloseButton; ++index) {
         const QString text = tr(ButtonToolTips[index]);
         d->m_buttons.at(index)->setToolTip(text);

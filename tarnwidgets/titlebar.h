@@ -88,8 +88,9 @@ public:
     QString titleButtonToolTip(const int &index) const;
 
     /*!
-     * Adds a button for \a action behind the other extra buttons. Sizes are in
-     * pixels. The bar owns the button, not the action; null is ignored.
+     * Adds a button for \a action behind the other extra buttons, flat and
+     * without focus as all buttons of the bar are. Sizes are in pixels. The bar
+     * owns the button, not the action; null is ignored.
      */
     void appendExtendTitleButton(QAction *action, QSize buttonSize, QSize iconSize);
 

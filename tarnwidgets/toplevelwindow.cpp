@@ -44,7 +44,31 @@ void TopLevelWindow::setIcon(const QIcon &icon)
         window->setIcon(icon);
 }
 
-void TopLevelWindow::nativeWindowChanged()
+void TopLevelWindow::handleEvent(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::WinIdChange:
+    case QEvent::WindowIconChange: // QWidget has given the native window its own icon
+        tellNativeWindow();
+        break;
+    case QEvent::WindowStateChange:
+        if (event->spontaneous())
+            m_normalGeometry = QRect(); // the window manager changed the state, and looks after the geometry
+        else if (m_widget->isVisible())
+            placeByState();
+        break;
+    case QEvent::Show:
+        // A state from before the show counts as soon as the native window is on the screen.
+        if (!event->spontaneous() && isLarge())
+            QMetaObject::invokeMethod(
+                this, [this] { placeByState(); }, Qt::QueuedConnection);
+        break;
+    default:
+        break;
+    }
+}
+
+void TopLevelWindow::tellNativeWindow()
 {
     QWindow *window = m_widget->windowHandle();
     if (!window)
@@ -56,19 +80,24 @@ void TopLevelWindow::nativeWindowChanged()
         window->setIcon(m_icon);
 }
 
+bool TopLevelWindow::isLarge() const
+{
+    return m_widget->isMaximized() || m_widget->isFullScreen();
+}
+
 void TopLevelWindow::placeByState()
 {
-    const bool isLarge = m_widget->isMaximized() || m_widget->isFullScreen();
+    QWindow *window = m_widget->windowHandle();
     const bool wasLarge = m_normalGeometry.isValid();
-    if ((!isLarge && !wasLarge) || isWayland())
+    if (!window || (!isLarge() && !wasLarge) || isWayland())
         return;
-    if (isLarge && !wasLarge)
+    if (!wasLarge)
         m_normalGeometry = m_widget->normalGeometry();
     // The native window's geometry: QWidget::setGeometry() would end the state, and keep to the maximum size.
     const QRect geometry = stateGeometry();
-    if (m_widget->windowHandle()->geometry() != geometry)
-        m_widget->windowHandle()->setGeometry(geometry);
-    if (!isLarge)
+    if (window->geometry() != geometry)
+        window->setGeometry(geometry);
+    if (!isLarge())
         m_normalGeometry = QRect();
 }
 
@@ -116,6 +145,13 @@ void TopLevelWindow::watch(QObject *window)
         watch(child);
 }
 
+void TopLevelWindow::unwatch(QObject *window)
+{
+    window->removeEventFilter(this);
+    for (QObject *child : window->children())
+        unwatch(child);
+}
+
 bool TopLevelWindow::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
@@ -125,6 +161,9 @@ bool TopLevelWindow::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::ChildAdded:
         watch(static_cast<QChildEvent *>(event)->child());
+        break;
+    case QEvent::ChildRemoved:
+        unwatch(static_cast<QChildEvent *>(event)->child());
         break;
     default:
         break;

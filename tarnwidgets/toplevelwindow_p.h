@@ -31,14 +31,10 @@ public:
     void setTitle(const QString &title);
     void setIcon(const QIcon &icon);
 
-    /*! To be called when the widget's native window came or went: tells a new one what its predecessor knew.
-     */
-    void nativeWindowChanged();
+    /*! To be called with each event of the widget, before the widget acts on it. */
+    void handleEvent(QEvent *event);
 
-    /*!
-     * To be called when the widget was made maximised, full screen or normal:
-     * gives it the geometry of its state where the platform did not.
-     */
+    /*! Gives the widget the geometry of its state where the platform only reports the state. */
     void placeByState();
 
     /*! Asks for the keyboard, unless the window has it or must not have it. */
@@ -47,12 +43,14 @@ public:
     /*! Gives the keyboard back to the window that had it before takeKeyboard(), else to the parent's. */
     void returnKeyboard();
 
-    /*! Sees the presses in the native window, which has those of most child widgets, and in native windows of
-     * children. */
+    /*! Sees the presses in the native window and in those that children have of their own. */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void watch(QObject *window);
+    void unwatch(QObject *window);
+    void tellNativeWindow();
+    bool isLarge() const;
     QRect stateGeometry() const;
     QWindow *formerFocusWindow() const;
 
