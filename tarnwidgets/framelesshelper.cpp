@@ -85,6 +85,7 @@ QRect keptAtMinimum(QRect wanted, const QRect &frame, const QSize &minimum)
 
 } // namespace
 
+// Kept: one width and one height for all helpers of the process.
 quint32 CursorPosCalculator::m_nBorderWidth = 5;
 quint32 CursorPosCalculator::m_nTitleHeight = 30;
 
@@ -108,8 +109,8 @@ void CursorPosCalculator::reset()
 
 void CursorPosCalculator::recalculate(const QPoint &globalPos, const QRect &frameRect)
 {
-    // 64 bits, so that no border width can overflow. The far sides lie one pixel outside, as x + width()
-    // does.
+    // 64 bits, so that no border width can overflow.
+    // Kept: both ends count, the far sides lie one pixel outside, and the other axis does not matter.
     const qint64 border = m_nBorderWidth;
     const qint64 left = frameRect.x();
     const qint64 top = frameRect.y();
@@ -241,6 +242,7 @@ void WidgetData::handleMouseMoveEvent(QMouseEvent *event)
     } else if (d->m_bWidgetResizable && m_pressedMousePos.m_bOnEdges) {
         resizeWidget(globalPos);
     } else if (d->m_bWidgetMovable && m_bLeftButtonTitlePressed) {
+        // Kept: also on the border of a widget that is not resizable, and on a maximised one.
         moveWidget(globalPos);
     }
 }

@@ -130,6 +130,8 @@ private Q_SLOTS:
     void pressStartsADragOutsideTheButtonStrip();
     void withoutTitleBarThereIsNoStrip_data();
     void withoutTitleBarThereIsNoStrip();
+    void withoutTitleBarTheWindowFollowsOverItsTop();
+    void deletedTitleBarIsNotFollowed();
     void everyPressIsAccepted_data();
     void everyPressIsAccepted();
     void otherButtonsDoNotStartADrag_data();
@@ -232,6 +234,42 @@ void tst_FramelessWindowInput::withoutTitleBarThereIsNoStrip()
     QVERIFY(window.press(at));
     QVERIFY(window.moveTo(at + Step));
     QCOMPARE(window.pos(), Start + Step);
+}
+
+void tst_FramelessWindowInput::withoutTitleBarTheWindowFollowsOverItsTop()
+{
+    const QPoint nearTheTop(50, 5);
+    const QPoint up(0, -10);
+    Window window(false);
+    QVERIFY(window.press(nearTheTop));
+    QVERIFY(window.moveTo(nearTheTop + up));
+    QCOMPARE(window.pos(), Start + up);
+}
+
+// An application that has put the bar into its own page may delete it with that.
+void tst_FramelessWindowInput::deletedTitleBarIsNotFollowed()
+{
+    // GIVEN a window whose title bar is gone
+    Window window(false);
+    delete window.getTitleBar();
+    QVERIFY(!window.getTitleBar());
+
+    // THEN it is still dragged
+    QVERIFY(window.press(OnContent));
+    QVERIFY(window.moveTo(OnContent + Step));
+    QCOMPARE(window.pos(), Start + Step);
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, OnContent);
+    QTest::mouseDClick(&window, Qt::LeftButton, {}, OnTitle);
+    QTest::keyClick(&window, Qt::Key_F11);
+    QVERIFY(!window.isMaximized());
+
+    // AND what goes to the bar is lost
+    window.setWindowTitle(QStringLiteral("lost"));
+    window.setWindowIcon(QIcon());
+    QCOMPARE(window.windowTitle(), QString());
+    QVERIFY(window.windowIcon().isNull());
+    window.setCentralWidget(new QWidget);
+    QVERIFY(window.centralWidget());
 }
 
 void tst_FramelessWindowInput::everyPressIsAccepted_data()

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QScreen>
 #include <QTest>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -96,10 +97,15 @@ private Q_SLOTS:
 
     void userMaximisesAndRestores_data();
     void userMaximisesAndRestores();
+    void applicationsRestoreCounts();
+    void fullScreenTakesTheWholeScreen();
+    void windowBeginsMaximised();
     void doubleClickCountsLeftOfTheButtonStrip_data();
     void doubleClickCountsLeftOfTheButtonStrip();
     void maximisedWindowIsNotDragged();
     void restoredWindowIsDraggedAgain();
+    void applicationSetsTheState_data();
+    void applicationSetsTheState();
     void placedWindowBeginsInTheCorner();
     void minimiseButtonMinimises();
     void escapeCloses();
@@ -329,6 +335,51 @@ void tst_FramelessWindow_x11::doubleClickCountsLeftOfTheButtonStrip()
     QTRY_COMPARE(window.isMaximized(), maximises);
 }
 
+void tst_FramelessWindow_x11::applicationsRestoreCounts()
+{
+    // GIVEN a window that the user has maximised, and that the application has restored and moved
+    const QRect elsewhere(300, 250, 400, 300);
+    Window window;
+    window.offerMaximising();
+    QVERIFY(m_desktop->show(&window));
+    window.titleButton(MaxButton)->click();
+    QTRY_COMPARE(m_desktop->geometry(&window), m_desktop->server.workArea());
+    window.showNormal();
+    QTRY_COMPARE(m_desktop->geometry(&window), Place);
+    window.setGeometry(elsewhere);
+    QTRY_COMPARE(m_desktop->geometry(&window), elsewhere);
+
+    // WHEN the application maximises and restores it, THEN it comes back to the new place
+    window.showMaximized();
+    QTRY_COMPARE(m_desktop->geometry(&window), m_desktop->server.workArea());
+    window.showNormal();
+    QTRY_COMPARE(m_desktop->geometry(&window), elsewhere);
+}
+
+void tst_FramelessWindow_x11::fullScreenTakesTheWholeScreen()
+{
+    Window window;
+    QVERIFY(m_desktop->show(&window));
+
+    window.showFullScreen();
+    QTRY_COMPARE(m_desktop->geometry(&window), QGuiApplication::primaryScreen()->geometry());
+    QVERIFY(window.isFullScreen());
+
+    window.showNormal();
+    QTRY_COMPARE(m_desktop->geometry(&window), Place);
+}
+
+void tst_FramelessWindow_x11::windowBeginsMaximised()
+{
+    Window window;
+    window.showMaximized();
+    QTRY_COMPARE(m_desktop->geometry(&window), m_desktop->server.workArea());
+    QVERIFY(window.isMaximized());
+
+    window.showNormal();
+    QTRY_COMPARE(m_desktop->geometry(&window), Place);
+}
+
 void tst_FramelessWindow_x11::maximisedWindowIsNotDragged()
 {
     // GIVEN a window that the user has maximised
@@ -367,6 +418,46 @@ void tst_FramelessWindow_x11::restoredWindowIsDraggedAgain()
     QTRY_COMPARE(m_desktop->geometry(&window), m_desktop->server.workArea());
     QVERIFY(m_desktop->input.doubleClick(QPoint(300, 10)));
     QTRY_COMPARE(m_desktop->geometry(&window), Place.translated(way));
+}
+
+void tst_FramelessWindow_x11::applicationSetsTheState_data()
+{
+    QTest::addColumn<bool>("isFullScreen");
+    QTest::addColumn<bool>("isShownBefore");
+    QTest::newRow("maximised from the start") << false << false;
+    QTest::newRow("maximised later") << false << true;
+    QTest::newRow("full screen from the start") << true << false;
+    QTest::newRow("full screen later") << true << true;
+}
+
+void tst_FramelessWindow_x11::applicationSetsTheState()
+{
+    QFETCH(bool, isFullScreen);
+    QFETCH(bool, isShownBefore);
+
+    // GIVEN a window on a screen that is not all for windows
+    const QRect screen = m_desktop->server.screenGeometry();
+    const QRect workArea = m_desktop->server.workArea();
+    QVERIFY(!workArea.isEmpty() && workArea != screen);
+    Window window;
+    if (isShownBefore)
+        QVERIFY(m_desktop->show(&window));
+
+    // WHEN the application calls for the state
+    if (isFullScreen)
+        window.showFullScreen();
+    else
+        window.showMaximized();
+    QVERIFY(m_desktop->isShown(&window));
+
+    // THEN the window has its geometry
+    QTRY_COMPARE(m_desktop->geometry(&window), isFullScreen ? screen : workArea);
+    QTRY_COMPARE(window.isFullScreen(), isFullScreen);
+    QTRY_COMPARE(window.isMaximized(), !isFullScreen);
+
+    // WHEN the application ends it, THEN the window is where and as large as it was given to be
+    window.showNormal();
+    QTRY_COMPARE(m_desktop->geometry(&window), Place);
 }
 
 void tst_FramelessWindow_x11::placedWindowBeginsInTheCorner()
