@@ -1,0 +1,496 @@
+// SPDX-FileCopyrightText: 2026 the tarnwidgets developers
+// SPDX-License-Identifier: MIT
+
+#include "framelessmessagebox_p.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QDialogButtonBox>
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QScreen>
+#include <QStyle>
+#include <QStyleOptionButton>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace Tarn::Widgets {
+
+namespace {
+
+constexpr QSize SmallestBox(400, 220);
+constexpr int DetailsHeight = 100;
+
+Qt::TextInteractionFlags textInteractionFlagsOf(const QWidget *widget)
+{
+    const QStyle *style = widget->style();
+    return Qt::TextInteractionFlags(
+        style->styleHint(QStyle::SH_MessageBox_TextInteractionFlags, nullptr, widget));
+}
+
+int withoutModifiers(int key)
+{
+    return key & ~int(Qt::MODIFIER_MASK);
+}
+
+void setPolicy(QLabel *label, QSizePolicy::Policy horizontal, QSizePolicy::Policy vertical,
+               bool heightForWidth)
+{
+    QSizePolicy policy(horizontal, vertical);
+    policy.setHeightForWidth(heightForWidth);
+    label->setSizePolicy(policy);
+}
+
+QRect availableGeometryUnderCursor()
+{
+    const QScreen *screen = QGuiApplication::screenAt(QCursor::pos());
+    return (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+}
+
+} // namespace
+
+// Details
+
+void QMessageBoxDetailsText::TextEdit::contextMenuEvent(QContextMenuEvent *event)
+{
+    QMenu *menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(event->globalPos());
+}
+
+QMessageBoxDetailsText::QMessageBoxDetailsText(QWidget *parent)
+    : QWidget(parent)
+    , textEdit(new TextEdit)
+{
+    auto *line = new QFrame(this);
+    line->setFrameShape(QFrame::HLine);
+    line->setFrameShadow(QFrame::Sunken);
+    textEdit->setFixedHeight(DetailsHeight);
+    textEdit->setFocusPolicy(Qt::NoFocus);
+    textEdit->setReadOnly(true);
+    connect(textEdit, &QTextEdit::copyAvailable, this, &QMessageBoxDetailsText::textCopyAvailable);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(line);
+    layout->addWidget(textEdit);
+}
+
+void QMessageBoxDetailsText::setText(const QString &text)
+{
+    textEdit->setPlainText(text);
+}
+
+QString QMessageBoxDetailsText::text() const
+{
+    return textEdit->toPlainText();
+}
+
+bool QMessageBoxDetailsText::copy()
+{
+    if (copyAvailable)
+        textEdit->copy();
+    return copyAvailable;
+}
+
+void QMessageBoxDetailsText::selectAll()
+{
+    textEdit->selectAll();
+}
+
+void QMessageBoxDetailsText::textCopyAvailable(bool available)
+{
+    copyAvailable = available;
+}
+
+DetailButton::DetailButton(QWidget *parent)
+    : QPushButton(label(true), parent)
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QString DetailButton::label(bool detailsHidden)
+{
+    return detailsHidden ? FramelessMessageBox::tr("Show Details...")
+                         : FramelessMessageBox::tr("Hide Details...");
+}
+
+QSize DetailButton::sizeHint() const
+{
+    ensurePolished();
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    QSize hint;
+    for (const bool detailsHidden : {true, false}) {
+        option.text = label(detailsHidden);
+        const QSize text = fontMetrics().size(Qt::TextShowMnemonic, option.text);
+        hint = hint.expandedTo(style()->sizeFromContents(QStyle::CT_PushButton, &option, text, this));
+    }
+    return hint.expandedTo(QApplication::globalStrut());
+}
+
+// State, layout and size
+
+FramelessMessageBoxPrivate::FramelessMessageBoxPrivate(FramelessMessageBox *box)
+    : box(box)
+{
+}
+
+void FramelessMessageBoxPrivate::init(const QString &title, const QString &text)
+{
+    box->setMinimumSize(SmallestBox);
+    box->setOKButtonVisible(false);
+    box->setCancelButtonVisible(false);
+
+    label = new QLabel;
+    label->setObjectName(QStringLiteral("qt_msgbox_label"));
+    label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    label->setTextInteractionFlags(textInteractionFlagsOf(box));
+    label->setAlignment(Qt::AlignVCenter | Qt::AlignLeft);
+    label->setOpenExternalLinks(true);
+
+    iconLabel = new QLabel(box);
+    iconLabel->setObjectName(QStringLiteral("qt_msgboxex_icon_label"));
+    iconLabel->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+
+    buttonBox = new QDialogButtonBox;
+    buttonBox->setObjectName(QStringLiteral("qt_msgbox_buttonbox"));
+    buttonBox->setCenterButtons(box->style()->styleHint(QStyle::SH_MessageBox_CenterButtons, nullptr, box));
+    connect(buttonBox, &QDialogButtonBox::clicked, box, &FramelessMessageBox::slot_buttonClicked);
+    box->m_pBottomLayout->addWidget(buttonBox);
+
+    if (!title.isEmpty() || !text.isEmpty()) {
+        box->setWindowTitle(title);
+        box->setText(text);
+    }
+    box->setModal(true);
+}
+
+bool FramelessMessageBoxPrivate::hasIcon() const
+{
+    return !iconLabel->pixmap(Qt::ReturnByValue).isNull();
+}
+
+void FramelessMessageBoxPrivate::setupLayout()
+{
+    delete box->layout();
+    iconLabel->setVisible(hasIcon());
+
+    auto *grid = new QGridLayout;
+    grid->setContentsMargins(20, 10, 20, 10);
+    grid->setVerticalSpacing(16);
+    addTexts(grid);
+    if (checkbox)
+        addCheckBox(grid);
+    if (detailsText)
+        grid->addWidget(detailsText, grid->rowCount(), 0, 1, grid->columnCount());
+    grid->setSizeConstraint(QLayout::SetNoConstraint);
+
+    auto *layout = new QVBoxLayout;
+    layout->setSpacing(0);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addStretch();
+    layout->addLayout(grid);
+    layout->addStretch();
+    box->setLayout(layout);
+
+    retranslateStrings();
+    updateSize();
+}
+
+void FramelessMessageBoxPrivate::addTexts(QGridLayout *grid)
+{
+    const bool withIcon = hasIcon();
+    const int textColumn = withIcon ? 2 : 1;
+    const int indent = withIcon ? 7 : 15;
+    grid->addItem(new QSpacerItem(indent, 1, QSizePolicy::Fixed, QSizePolicy::Fixed), 0, textColumn - 1, 2,
+                  1);
+    if (!informativeLabel) {
+        if (withIcon)
+            grid->addWidget(iconLabel, 0, 0, 2, 1, Qt::AlignVCenter);
+        grid->addWidget(label, 0, textColumn, 2, 2, Qt::AlignVCenter);
+        return;
+    }
+
+    // Kept: the style sheets stay when the informative text goes.
+    informativeLabel->setContentsMargins(0, 7, 0, 7);
+    grid->setVerticalSpacing(2);
+    if (withIcon)
+        grid->addWidget(iconLabel, 0, 0, 1, 1, Qt::AlignTop);
+    grid->addWidget(label, 0, textColumn, 1, 2);
+    label->setStyleSheet(QStringLiteral("font-size:16px;color:#e67007;"));
+    grid->addWidget(informativeLabel, 1, textColumn, 2, 2);
+    informativeLabel->setStyleSheet(QStringLiteral("font-size:14px;"));
+    grid->setContentsMargins(20, 10, 20, 24);
+}
+
+void FramelessMessageBoxPrivate::addCheckBox(QGridLayout *grid)
+{
+    const int textColumn = hasIcon() ? 2 : 1;
+    grid->addWidget(checkbox, informativeLabel ? 2 : 1, textColumn, 1, 1, Qt::AlignLeft);
+    grid->addItem(new QSpacerItem(1, 7, QSizePolicy::Fixed, QSizePolicy::Fixed), grid->rowCount(), 0, 1, 1);
+}
+
+int FramelessMessageBoxPrivate::layoutMinimumWidth() const
+{
+    box->layout()->activate();
+    return box->layout()->totalMinimumSize().width();
+}
+
+void FramelessMessageBoxPrivate::updateSize()
+{
+    if (!box->isVisible())
+        return;
+    const int screenWidth = availableGeometryUnderCursor().width();
+    const int hardLimit = screenWidth <= 1024 ? screenWidth : qMin(screenWidth - 480, 1000);
+    const int softLimit = qMin(screenWidth / 2, 400);
+
+    const int width = qMax(widthForTexts(hardLimit, softLimit), qMin(widthForTitle(), hardLimit));
+    box->layout()->activate();
+    const int height = heightForWidth(width) + 10 + box->noCentralHeight();
+    box->setFixedSize(QSize(width, height).expandedTo(SmallestBox));
+    QCoreApplication::removePostedEvents(box, QEvent::LayoutRequest);
+}
+
+int FramelessMessageBoxPrivate::widthForTexts(int hardLimit, int softLimit)
+{
+    if (informativeLabel)
+        setPolicy(informativeLabel, QSizePolicy::Ignored, QSizePolicy::Ignored, false);
+    label->setWordWrap(false);
+    int width = layoutMinimumWidth();
+    label->setWordWrap(true);
+    if (width > softLimit)
+        width = qMin(qMax(softLimit, layoutMinimumWidth()), hardLimit);
+    if (informativeLabel) {
+        setPolicy(label, QSizePolicy::Ignored, QSizePolicy::Ignored, false);
+        setPolicy(informativeLabel, QSizePolicy::Minimum, QSizePolicy::Preferred, true);
+        width = qMin(qMax(width, layoutMinimumWidth()), hardLimit);
+        setPolicy(label, QSizePolicy::Minimum, QSizePolicy::Preferred, label->wordWrap());
+    }
+    return width;
+}
+
+int FramelessMessageBoxPrivate::widthForTitle() const
+{
+    const QFontMetrics metrics(QApplication::font("QMdiSubWindowTitleBar"));
+    return metrics.horizontalAdvance(box->windowTitle()) + 50;
+}
+
+int FramelessMessageBoxPrivate::heightForWidth(int width) const
+{
+    const QLayout *layout = box->layout();
+    return layout->hasHeightForWidth() ? layout->totalHeightForWidth(width)
+                                       : layout->totalMinimumSize().height();
+}
+
+void FramelessMessageBoxPrivate::retranslateStrings()
+{
+    if (detailsButton)
+        detailsButton->setText(DetailButton::label(!detailsText || detailsText->isHidden()));
+}
+
+void FramelessMessageBoxPrivate::retranslateStandardButtons()
+{
+    for (const QMessageBox::StandardButton button : qAsConst(ownTextButtons))
+        box->retranslateButtonUi(button);
+}
+
+void FramelessMessageBoxPrivate::followStyle()
+{
+    if (icon != QMessageBox::NoIcon)
+        box->setIcon(icon);
+    const Qt::TextInteractionFlags flags = textInteractionFlagsOf(box);
+    label->setTextInteractionFlags(flags);
+    if (informativeLabel)
+        informativeLabel->setTextInteractionFlags(flags);
+    buttonBox->setCenterButtons(box->style()->styleHint(QStyle::SH_MessageBox_CenterButtons, nullptr, box));
+}
+
+QPixmap FramelessMessageBoxPrivate::standardIcon(QMessageBox::Icon icon, FramelessMessageBox *box)
+{
+    QStyle::StandardPixmap which = QStyle::SP_MessageBoxInformation;
+    switch (icon) {
+    case QMessageBox::Information:
+        break;
+    case QMessageBox::Warning:
+        which = QStyle::SP_MessageBoxWarning;
+        break;
+    case QMessageBox::Critical:
+        which = QStyle::SP_MessageBoxCritical;
+        break;
+    case QMessageBox::Question:
+        which = QStyle::SP_MessageBoxQuestion;
+        break;
+    default:
+        return QPixmap();
+    }
+
+    const QStyle *style = box ? box->style() : QApplication::style();
+    const int size = style->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, box);
+    const QIcon standard = style->standardIcon(which, nullptr, box);
+    QWindow *window = box ? box->windowHandle() : nullptr;
+    if (box && !window && box->nativeParentWidget())
+        window = box->nativeParentWidget()->windowHandle();
+    return standard.pixmap(window, QSize(size, size));
+}
+
+void FramelessMessageBoxPrivate::setPixmap(const QPixmap &pixmap)
+{
+    iconLabel->setPixmap(pixmap);
+    icon = QMessageBox::NoIcon;
+}
+
+QLabel *FramelessMessageBoxPrivate::createInformativeLabel() const
+{
+    auto *informative = new QLabel;
+    informative->setObjectName(QStringLiteral("qt_msgbox_informativelabel"));
+    informative->setTextInteractionFlags(textInteractionFlagsOf(box));
+    informative->setAlignment(Qt::AlignVCenter | Qt::AlignLeft);
+    informative->setOpenExternalLinks(true);
+    informative->setWordWrap(true);
+    return informative;
+}
+
+void FramelessMessageBoxPrivate::createDetails()
+{
+    if (!detailsText) {
+        detailsText = new QMessageBoxDetailsText(box);
+        detailsText->hide();
+    }
+    if (!detailsButton) {
+        const bool autoAddOk = autoAddOkButton;
+        detailsButton = new DetailButton(box);
+        box->addButton(detailsButton, QMessageBox::ActionRole);
+        autoAddOkButton = autoAddOk; // a detailed text alone does not do without the OK button
+    }
+}
+
+void FramelessMessageBoxPrivate::removeDetails()
+{
+    if (detailsText) {
+        detailsText->hide();
+        detailsText->deleteLater();
+        detailsText.clear();
+    }
+    if (detailsButton) {
+        box->removeButton(detailsButton);
+        detailsButton->hide();
+        detailsButton->deleteLater();
+        detailsButton.clear();
+    }
+}
+
+void FramelessMessageBoxPrivate::toggleDetails()
+{
+    const bool show = detailsText->isHidden();
+    detailsButton->setText(DetailButton::label(!show));
+    detailsText->setHidden(!show);
+    updateSize();
+}
+
+// Buttons
+
+void FramelessMessageBoxPrivate::detectEscapeButton()
+{
+    const QList<QAbstractButton *> buttons = buttonBox->buttons();
+    if (escapeButton)
+        detectedEscapeButton = escapeButton;
+    else if (QPushButton *cancel = buttonBox->button(QDialogButtonBox::Cancel))
+        detectedEscapeButton = cancel;
+    else if (buttons.count() == 1)
+        detectedEscapeButton = buttons.first();
+    else if (QAbstractButton *reject = onlyButtonOfRole(QMessageBox::RejectRole))
+        detectedEscapeButton = reject;
+    else
+        detectedEscapeButton = onlyButtonOfRole(QMessageBox::NoRole);
+}
+
+QAbstractButton *FramelessMessageBoxPrivate::onlyButtonOfRole(QMessageBox::ButtonRole role) const
+{
+    QAbstractButton *only = nullptr;
+    const QList<QAbstractButton *> buttons = buttonBox->buttons();
+    for (QAbstractButton *button : buttons) {
+        if (box->buttonRole(button) != role)
+            continue;
+        if (only)
+            return nullptr;
+        only = button;
+    }
+    return only;
+}
+
+int FramelessMessageBoxPrivate::execReturnCode(QAbstractButton *button) const
+{
+    const int code = buttonBox->standardButton(button);
+    return code != QDialogButtonBox::NoButton ? code : customButtonList.indexOf(button);
+}
+
+void FramelessMessageBoxPrivate::buttonClicked(QAbstractButton *button)
+{
+    if (detailsButton && detailsText && button == detailsButton) {
+        toggleDetails();
+        return;
+    }
+    // Whoever hears that the dialog is done may delete it.
+    const QPointer<FramelessMessageBox> alive(box);
+    clickedButton = button;
+    box->done(execReturnCode(button));
+    if (alive)
+        Q_EMIT box->buttonClicked(button);
+    if (!alive)
+        return;
+    if (receiverToDisconnectOnClose) {
+        QObject::disconnect(box, signalToDisconnectOnClose.constData(), receiverToDisconnectOnClose,
+                            memberToDisconnectOnClose.constData());
+        receiverToDisconnectOnClose.clear();
+    }
+    signalToDisconnectOnClose.clear();
+    memberToDisconnectOnClose.clear();
+}
+
+void FramelessMessageBoxPrivate::clicked(QMessageBox::StandardButton button, QMessageBox::ButtonRole)
+{
+    box->done(button);
+}
+
+bool FramelessMessageBoxPrivate::clickButtonByKey(const QKeyEvent *event)
+{
+    const int key = withoutModifiers(event->key());
+    if (!key || (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)))
+        return false;
+    const QList<QAbstractButton *> buttons = buttonBox->buttons();
+    for (QAbstractButton *button : buttons) {
+        const QKeySequence shortcut = button->shortcut();
+        if (!shortcut.isEmpty() && withoutModifiers(shortcut[0]) == key) {
+            button->animateClick(100);
+            return true;
+        }
+    }
+    return false;
+}
+
+QMessageBox::StandardButton FramelessMessageBoxPrivate::closingResult()
+{
+    if (autoAddOkButton)
+        return QMessageBox::Ok; // which the box gets when it is shown
+    detectEscapeButton();
+    return detectedEscapeButton ? box->standardButton(detectedEscapeButton) : QMessageBox::Cancel;
+}
+
+QMessageBox::StandardButton FramelessMessageBoxPrivate::execAndDelete(FramelessMessageBox *box)
+{
+    // Whoever deletes the parent meanwhile deletes the box, which is why it is not on the stack.
+    const QPointer<FramelessMessageBox> alive(box);
+    const QMessageBox::StandardButton closing = box->d->closingResult();
+    const int result = box->exec();
+    if (!alive)
+        return closing;
+    const QMessageBox::StandardButton clicked = box->standardButton(box->clickedButton());
+    delete box;
+    return result == -1 ? QMessageBox::Cancel : clicked;
+}
+
+} // namespace Tarn::Widgets

@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 the tarnwidgets developers
+// SPDX-License-Identifier: MIT
+
+// Not part of the API: state, layout and size of a FramelessMessageBox, apart so that they can be tested by
+// themselves.
+
+#ifndef TARN_WIDGETS_FRAMELESSMESSAGEBOX_P_H
+#define TARN_WIDGETS_FRAMELESSMESSAGEBOX_P_H
+
+#include "framelessmessagebox.h"
+
+#include <QCheckBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QTextEdit>
+
+class QDialogButtonBox;
+class QGridLayout;
+class QLabel;
+
+namespace Tarn::Widgets {
+
+/*! The area that shows the detailed text. */
+class QMessageBoxDetailsText : public QWidget
+{
+    Q_OBJECT
+
+public:
+    class TextEdit : public QTextEdit
+    {
+    public:
+        using QTextEdit::QTextEdit;
+
+    protected:
+        void contextMenuEvent(QContextMenuEvent *event) override;
+    };
+
+    explicit QMessageBoxDetailsText(QWidget *parent);
+
+    void setText(const QString &text);
+    QString text() const;
+
+    /*! Copies the selection if there is one; false if not. */
+    bool copy();
+    void selectAll();
+
+private Q_SLOTS:
+    void textCopyAvailable(bool available);
+
+private:
+    TextEdit *textEdit;
+    bool copyAvailable = false;
+};
+
+/*! The button of the details, wide enough for both of its texts. */
+class DetailButton : public QPushButton
+{
+public:
+    explicit DetailButton(QWidget *parent);
+
+    static QString label(bool detailsHidden);
+    QSize sizeHint() const override;
+};
+
+class FramelessMessageBoxPrivate : public QObject
+{
+public:
+    explicit FramelessMessageBoxPrivate(FramelessMessageBox *box);
+
+    void init(const QString &title, const QString &text);
+    void setupLayout();
+    void updateSize();
+    int layoutMinimumWidth() const;
+    void retranslateStrings();
+    void retranslateStandardButtons();
+    void followStyle();
+
+    static QPixmap standardIcon(QMessageBox::Icon icon, FramelessMessageBox *box);
+    void setPixmap(const QPixmap &pixmap);
+
+    void createDetails();
+    void removeDetails();
+    void toggleDetails();
+    QLabel *createInformativeLabel() const;
+
+    void detectEscapeButton();
+    QAbstractButton *onlyButtonOfRole(QMessageBox::ButtonRole role) const;
+    int execReturnCode(QAbstractButton *button) const;
+    void buttonClicked(QAbstractButton *button);
+    void clicked(QMessageBox::StandardButton button, QMessageBox::ButtonRole role);
+    bool clickButtonByKey(const QKeyEvent *event);
+
+    /*! What closing the box gives, before it is shown. */
+    QMessageBox::StandardButton closingResult();
+
+    static QMessageBox::StandardButton execAndDelete(FramelessMessageBox *box);
+
+    FramelessMessageBox *const box;
+    QLabel *label = nullptr;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QLabel *iconLabel = nullptr;
+    QDialogButtonBox *buttonBox = nullptr;
+    QList<QPointer<QAbstractButton>> customButtonList;
+    QPointer<QAbstractButton> escapeButton;
+    QPointer<QPushButton> defaultButton;
+    QPointer<QCheckBox> checkbox;
+    QPointer<QAbstractButton> clickedButton;
+    QPointer<DetailButton> detailsButton;
+    QPointer<QMessageBoxDetailsText> detailsText;
+    bool autoAddOkButton = true;
+    QPointer<QAbstractButton> detectedEscapeButton;
+    QPointer<QLabel> informativeLabel;
+    QPointer<QObject> receiverToDisconnectOnClose;
+    QByteArray memberToDisconnectOnClose;
+    QByteArray signalToDisconnectOnClose;
+    QList<QMessageBox::StandardButton> ownTextButtons; // those that do not show Qt's text
+
+private:
+    bool hasIcon() const;
+    void addTexts(QGridLayout *grid);
+    void addCheckBox(QGridLayout *grid);
+    int widthForTexts(int hardLimit, int softLimit);
+    int widthForTitle() const;
+    int heightForWidth(int width) const;
+};
+
+} // namespace Tarn::Widgets
+
+#endif
