@@ -236,6 +236,12 @@ QPushButton *FramelessMessageBox::addButton(const QString &text, QMessageBox::Bu
 QPushButton *FramelessMessageBox::addButton(QMessageBox::StandardButton button)
 {
     QPushButton *created = d->buttonBox->addButton(toButtonBox(button));
+    if (created && buttonRole(created) == QMessageBox::InvalidRole) {
+        // Of an unknown value: made by the button box, but not taken.
+        d->buttonBox->removeButton(created);
+        delete created;
+        return nullptr;
+    }
     if (created) {
         d->autoAddOkButton = false;
         d->ownTextButtons.append(button);

@@ -26,9 +26,10 @@ class FramelessMessageBoxPrivate;
  * frameless ones. Code moves over by changing the class name.
  *
  * \code
- * const auto answer = FramelessMessageBox::question(this, tr("Quit"), tr("Save the changes?"),
- *                                                   QMessageBox::Save | QMessageBox::Discard |
- * QMessageBox::Cancel); if (answer == QMessageBox::Save) save(); \endcode
+ * const auto answer = FramelessMessageBox::question(this, tr("Quit"), tr("Save the changes?"));
+ * if (answer == QMessageBox::Yes)
+ *     save();
+ * \endcode
  *
  * The box owns its buttons and its check box. It is modal and sizes itself, to
  * 400 x 220 pixels at least, whenever its content changes while it is visible.
