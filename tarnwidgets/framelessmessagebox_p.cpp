@@ -240,13 +240,23 @@ int FramelessMessageBoxPrivate::layoutMinimumWidth() const
     return box->layout()->totalMinimumSize().width();
 }
 
+int FramelessMessageBoxPrivate::hardWidthLimit(int screenWidth)
+{
+    return screenWidth <= 1024 ? screenWidth : qMin(screenWidth - 480, 1000);
+}
+
+int FramelessMessageBoxPrivate::softWidthLimit(int screenWidth)
+{
+    return qMin(screenWidth / 2, 400);
+}
+
 void FramelessMessageBoxPrivate::updateSize()
 {
     if (!box->isVisible())
         return;
     const int screenWidth = availableGeometryUnderCursor().width();
-    const int hardLimit = screenWidth <= 1024 ? screenWidth : qMin(screenWidth - 480, 1000);
-    const int softLimit = qMin(screenWidth / 2, 400);
+    const int hardLimit = hardWidthLimit(screenWidth);
+    const int softLimit = softWidthLimit(screenWidth);
 
     const int width = qMax(widthForTexts(hardLimit, softLimit), qMin(widthForTitle(), hardLimit));
     box->layout()->activate();

@@ -70,6 +70,11 @@ public:
     void init(const QString &title, const QString &text);
     void setupLayout();
     void updateSize();
+
+    /*! The width that no text makes a box exceed, and the one up to which a text is not wrapped. */
+    static int hardWidthLimit(int screenWidth);
+    static int softWidthLimit(int screenWidth);
+
     int layoutMinimumWidth() const;
     void retranslateStrings();
     void retranslateStandardButtons();
