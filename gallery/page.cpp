@@ -5,6 +5,7 @@
 
 #include "controlspage.h"
 #include "dialogspage.h"
+#include "messageboxpage.h"
 #include "separatorspage.h"
 #include "stylesheetpage.h"
 #include "titlebarpage.h"
@@ -13,8 +14,8 @@ namespace Gallery {
 
 QVector<Page> pages()
 {
-    return {TitleBarPage::page(), DialogsPage::page(), SeparatorsPage::page(), ControlsPage::page(),
-            StyleSheetPage::page()};
+    return {TitleBarPage::page(),   DialogsPage::page(),  MessageBoxPage::page(),
+            SeparatorsPage::page(), ControlsPage::page(), StyleSheetPage::page()};
 }
 
 } // namespace Gallery

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFile>
 #include <QGroupBox>
 #include <QLabel>
@@ -29,6 +30,7 @@
 #include <stylesheetpage.h>
 #include <tarnwidgets/framelessdialog.h>
 #include <tarnwidgets/framelesshelper.h>
+#include <tarnwidgets/framelessmessagebox.h>
 #include <tarnwidgets/titlebar.h>
 #include <titlebarpage.h>
 #include <unistd.h>
@@ -37,6 +39,7 @@ using namespace Gallery;
 using Tarn::Test::ModalDriver;
 using Tarn::Widgets::FramelessDialog;
 using Tarn::Widgets::FramelessHelper;
+using Tarn::Widgets::FramelessMessageBox;
 using Tarn::Widgets::TitleBar;
 
 namespace {
@@ -143,6 +146,11 @@ private Q_SLOTS:
     void modalDialogTellsItsOutcome();
     void modelessDialogLeavesThePageUsable();
     void dialogsAreOpenedWithTheChosenOptions();
+
+    void messageBoxIsMadeAsTheCodeTells_data();
+    void messageBoxIsMadeAsTheCodeTells();
+    void messageBoxTellsItsResult_data();
+    void messageBoxTellsItsResult();
 
     void chosenWidthReachesAllLines();
 
@@ -401,6 +409,93 @@ void tst_GalleryPages::dialogsAreOpenedWithTheChosenOptions()
     QCOMPARE(helper.borderWidth(), 9u);
     QCOMPARE(helper.titleHeight(), 40u);
     dialog->close();
+}
+
+void tst_GalleryPages::messageBoxIsMadeAsTheCodeTells_data()
+{
+    QTest::addColumn<QStringList>("switches");
+    QTest::addColumn<QString>("line");
+    const auto add = [](const char *name, const QStringList &switches, const char *line) {
+        QTest::newRow(name) << switches << QString::fromLatin1(line);
+    };
+    add("at the start", {},
+        "FramelessMessageBox box(QMessageBox::Question, tr(\"Pump 4\"), tr(\"Switch the pump off?\"), "
+        "QMessageBox::Yes | QMessageBox::No, this);");
+    add("informative text", {QStringLiteral("Informative text")},
+        "box.setInformativeText(tr(\"The tank behind it will be empty within an hour.\"));");
+    add("check box", {QStringLiteral("Check box")},
+        "box.setCheckBox(new QCheckBox(tr(\"Do not ask again\")));");
+    add("details", {QStringLiteral("Details")},
+        "box.setDetailedText(tr(\"10:42 pressure 0.3 bar\\n10:41 pressure 0.9 bar\\n10:40 pressure 2.1 "
+        "bar\"));");
+}
+
+void tst_GalleryPages::messageBoxIsMadeAsTheCodeTells()
+{
+    QFETCH(QStringList, switches);
+    QFETCH(QString, line);
+
+    // WHEN something is switched on
+    const Stage stage(QStringLiteral("message-boxes"));
+    for (const QString &text : qAsConst(switches))
+        stage.setSwitch(text, true);
+
+    // THEN the code says so, the box has it, and the box has nothing else
+    const QStringList code =
+        stage.page->findChild<QPlainTextEdit *>()->toPlainText().split(QLatin1Char('\n'));
+    QVERIFY2(code.contains(line), qPrintable(code.join(QLatin1Char('\n'))));
+    QCOMPARE(code.last(), QStringLiteral("box.exec();"));
+    QCOMPARE(code.size(), 2 + switches.size());
+    ModalDriver driver([&](QWidget *dialog) {
+        const auto *box = qobject_cast<FramelessMessageBox *>(dialog);
+        QCOMPARE(box->icon(), QMessageBox::Question);
+        QCOMPARE(box->text(), QStringLiteral("Switch the pump off?"));
+        QCOMPARE(!box->informativeText().isEmpty(), switches.contains(QStringLiteral("Informative text")));
+        QCOMPARE(box->checkBox() != nullptr, switches.contains(QStringLiteral("Check box")));
+        QCOMPARE(!box->detailedText().isEmpty(), switches.contains(QStringLiteral("Details")));
+        dialog->close();
+    });
+    stage.click(QStringLiteral("Open"));
+    QVERIFY(driver.ran());
+}
+
+void tst_GalleryPages::messageBoxTellsItsResult_data()
+{
+    QTest::addColumn<QString>("call");
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("result");
+    const auto add = [](const char *call, const char *button, const char *result) {
+        QTest::newRow(call) << QString::fromLatin1(call) << QString::fromLatin1(button)
+                            << QString::fromLatin1(result);
+    };
+    add("exec()", "&Yes", "Result: QMessageBox::Yes");
+    add("information()", "&No", "Result: QMessageBox::No");
+    add("question()", "&Yes", "Result: QMessageBox::Yes");
+    add("warning()", "&No", "Result: QMessageBox::No");
+    add("critical()", "&Yes", "Result: QMessageBox::Yes");
+    add("about()", "OK", "Result: QMessageBox::Ok");
+    add("aboutQt()", "OK", "Result: QMessageBox::Ok");
+}
+
+void tst_GalleryPages::messageBoxTellsItsResult()
+{
+    QFETCH(QString, call);
+    QFETCH(QString, button);
+    QFETCH(QString, result);
+
+    const Stage stage(QStringLiteral("message-boxes"));
+    auto *calls = stage.page->findChild<QComboBox *>();
+    calls->setCurrentText(call);
+    QCOMPARE(calls->currentText(), call);
+    const QString code = stage.page->findChild<QPlainTextEdit *>()->toPlainText();
+    QVERIFY(code.contains(QString(call).remove(QLatin1Char(')'))));
+    ModalDriver driver([&](QWidget *dialog) {
+        QVERIFY(qobject_cast<FramelessMessageBox *>(dialog));
+        findByText<QPushButton>(dialog->findChild<QDialogButtonBox *>(), button)->click();
+    });
+    stage.click(QStringLiteral("Open"));
+    QVERIFY(driver.ran());
+    QVERIFY(findByText<QLabel>(stage.page.get(), result));
 }
 
 void tst_GalleryPages::chosenWidthReachesAllLines()

@@ -36,6 +36,7 @@
 #include <memory>
 #include <optional>
 #include <tarnwidgets/framelessdialog.h>
+#include <tarnwidgets/framelessmessagebox.h>
 #include <tarnwidgets/framelesswindow.h>
 #include <tarnwidgets/qssloader.h>
 #include <tarnwidgets/titlebar.h>
@@ -239,6 +240,7 @@ struct World
 
     FramelessWindow window;
     FramelessDialog dialog;
+    FramelessMessageBox messageBox{QMessageBox::Information, QString(), QString(), QMessageBox::Ok};
 };
 
 /* The names of the dynamic properties of all widgets of the library; those of Qt begin with an underscore. */

@@ -1,0 +1,460 @@
+// SPDX-FileCopyrightText: 2026 the tarnwidgets developers
+// SPDX-License-Identifier: MIT
+
+#include "messageboxpage.h"
+
+#include "appearance.h"
+#include "parts.h"
+#include "pictureview.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMetaEnum>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <iterator>
+#include <tarnwidgets/framelessmessagebox.h>
+#include <tarnwidgets/stylesheetwidget.h>
+
+using Tarn::Widgets::FramelessMessageBox;
+using Tarn::Widgets::StyleSheetWidget;
+
+namespace Gallery {
+
+namespace {
+
+using Box = FramelessMessageBox;
+using Button = QMessageBox::StandardButton;
+using Buttons = QMessageBox::StandardButtons;
+
+constexpr int CodePixels = 12;
+
+enum Call { Exec, Information, Question, Warning, Critical, About, AboutQt };
+
+constexpr const char *CallNames[] = {"exec",     "information", "question", "warning",
+                                     "critical", "about",       "aboutQt"};
+
+constexpr QMessageBox::Icon Icons[] = {QMessageBox::NoIcon, QMessageBox::Information, QMessageBox::Warning,
+                                       QMessageBox::Critical, QMessageBox::Question};
+
+enum Text { Plain, Rich, Long, Chinese };
+
+// The last is two buttons of the application's own.
+const Buttons ButtonSets[] = {QMessageBox::Ok,
+                              QMessageBox::Ok | QMessageBox::Cancel,
+                              QMessageBox::Yes | QMessageBox::No,
+                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+                              QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore,
+                              QMessageBox::Yes | QMessageBox::YesToAll | QMessageBox::No
+                                  | QMessageBox::NoToAll | QMessageBox::Cancel,
+                              QMessageBox::NoButton};
+
+/* The name of a value in one of QMessageBox's enumerations; null for unknown ones. */
+QString nameIn(const char *enumeration, int value)
+{
+    const QMetaObject &meta = QMessageBox::staticMetaObject;
+    return QString::fromLatin1(meta.enumerator(meta.indexOfEnumerator(enumeration)).valueToKey(value));
+}
+
+QString nameOf(Button button)
+{
+    return nameIn("StandardButtons", button);
+}
+
+QString nameOf(QMessageBox::Icon icon)
+{
+    return nameIn("Icon", icon);
+}
+
+QStringList namesOf(Buttons buttons, const QString &prefix)
+{
+    QStringList names;
+    for (uint bit = QMessageBox::FirstButton; bit <= QMessageBox::LastButton; bit <<= 1) {
+        if (buttons.testFlag(Button(bit)))
+            names.append(prefix + nameOf(Button(bit)));
+    }
+    return names;
+}
+
+QStringList buttonSetTitles()
+{
+    QStringList titles;
+    for (const Buttons &set : ButtonSets)
+        titles.append(set ? namesOf(set, QString()).join(QStringLiteral(", "))
+                          : MessageBoxPage::tr("Two of one's own"));
+    return titles;
+}
+
+QString titleFor(int text)
+{
+    return text == Chinese ? QStringLiteral("四号水泵") : MessageBoxPage::tr("Pump 4");
+}
+
+QString mainText(int text)
+{
+    switch (text) {
+    case Rich:
+        return MessageBoxPage::tr("The pump delivers <b>0.3 bar</b>, which is <i>below</i> the limit.");
+    case Long:
+        return MessageBoxPage::tr(
+            "The pump has been running dry for eleven minutes. Its bearings are warm, the "
+            "pressure falls, and the tank behind it will be empty within the hour. Switch "
+            "it off now?");
+    case Chinese:
+        return QStringLiteral("水泵压力低于下限。要现在关闭水泵吗?");
+    default:
+        return MessageBoxPage::tr("Switch the pump off?");
+    }
+}
+
+QString informativeText(int text)
+{
+    return text == Chinese ? QStringLiteral("关闭后,后面的水箱将在一小时内排空。")
+                           : MessageBoxPage::tr("The tank behind it will be empty within an hour.");
+}
+
+QString detailedText(int text)
+{
+    return text == Chinese ? QStringLiteral("10:42 压力 0.3 巴\n10:41 压力 0.9 巴\n10:40 压力 2.1 巴")
+                           : MessageBoxPage::tr("10:42 pressure 0.3 bar\n10:41 pressure 0.9 bar\n"
+                                                "10:40 pressure 2.1 bar");
+}
+
+QString checkBoxText(int text)
+{
+    return text == Chinese ? QStringLiteral("不再询问") : MessageBoxPage::tr("Do not ask again");
+}
+
+void addOwnButtons(Box *box)
+{
+    box->addButton(MessageBoxPage::tr("Switch off"), QMessageBox::AcceptRole);
+    box->addButton(MessageBoxPage::tr("Later"), QMessageBox::RejectRole);
+}
+
+Box *createBox(const MessageOptions &options, QWidget *parent)
+{
+    const Buttons buttons = ButtonSets[options.buttons];
+    auto *box = new Box(options.icon, titleFor(options.text), mainText(options.text), buttons, parent);
+    if (!buttons)
+        addOwnButtons(box);
+    if (options.informativeText)
+        box->setInformativeText(informativeText(options.text));
+    if (options.checkBox)
+        box->setCheckBox(new QCheckBox(checkBoxText(options.text)));
+    if (options.detailedText)
+        box->setDetailedText(detailedText(options.text));
+    return box;
+}
+
+/* What one of the one-call functions shows, for a picture of it. */
+MessageOptions shownByCall(const MessageOptions &options)
+{
+    static constexpr QMessageBox::Icon CallIcons[] = {QMessageBox::Information, QMessageBox::Question,
+                                                      QMessageBox::Warning, QMessageBox::Critical};
+    MessageOptions shown;
+    shown.text = options.text;
+    shown.buttons = options.call == About ? 0 : options.buttons;
+    shown.icon = options.call == About ? QMessageBox::NoIcon : CallIcons[options.call - Information];
+    return shown;
+}
+
+QString quoted(QString text)
+{
+    text.replace(QLatin1Char('\n'), QStringLiteral("\\n"));
+    return QStringLiteral("tr(\"%1\")").arg(text);
+}
+
+QString codeOfButtons(Buttons buttons)
+{
+    const QStringList names = namesOf(buttons, QStringLiteral("QMessageBox::"));
+    return names.isEmpty() ? QStringLiteral("QMessageBox::NoButton") : names.join(QStringLiteral(" | "));
+}
+
+QString codeOfCall(const MessageOptions &options)
+{
+    QString code = QStringLiteral("FramelessMessageBox::%1(this").arg(QLatin1String(CallNames[options.call]));
+    if (options.call != AboutQt)
+        code +=
+            QStringLiteral(", %1, %2").arg(quoted(titleFor(options.text)), quoted(mainText(options.text)));
+    if (options.call < About)
+        code += QStringLiteral(", ") + codeOfButtons(ButtonSets[options.buttons]);
+    return code + QStringLiteral(");");
+}
+
+QString codeOfBox(const MessageOptions &options)
+{
+    const Buttons buttons = ButtonSets[options.buttons];
+    QStringList lines = {QStringLiteral("FramelessMessageBox box(QMessageBox::%1, %2, %3, %4, this);")
+                             .arg(nameOf(options.icon), quoted(titleFor(options.text)),
+                                  quoted(mainText(options.text)), codeOfButtons(buttons))};
+    const auto add = [&lines](bool isWanted, const QString &format, const QString &text) {
+        if (isWanted)
+            lines.append(format.arg(quoted(text)));
+    };
+    add(!buttons, QStringLiteral("box.addButton(%1, QMessageBox::AcceptRole);"),
+        MessageBoxPage::tr("Switch off"));
+    add(!buttons, QStringLiteral("box.addButton(%1, QMessageBox::RejectRole);"), MessageBoxPage::tr("Later"));
+    add(options.informativeText, QStringLiteral("box.setInformativeText(%1);"),
+        informativeText(options.text));
+    add(options.checkBox, QStringLiteral("box.setCheckBox(new QCheckBox(%1));"), checkBoxText(options.text));
+    add(options.detailedText, QStringLiteral("box.setDetailedText(%1);"), detailedText(options.text));
+    lines.append(QStringLiteral("box.exec();"));
+    return lines.join(QLatin1Char('\n'));
+}
+
+/* With the details opened, if there are any. */
+QDialog *createExhibit(const MessageOptions &options, QWidget *parent)
+{
+    Box *box = createBox(options, parent);
+    const QList<QAbstractButton *> buttons = box->buttons();
+    for (QAbstractButton *button : buttons) {
+        if (box->buttonRole(button) == QMessageBox::ActionRole)
+            button->click();
+    }
+    return box;
+}
+
+MessageOptions plain(QMessageBox::Icon icon, int text, int buttons)
+{
+    MessageOptions options;
+    options.icon = icon;
+    options.text = text;
+    options.buttons = buttons;
+    return options;
+}
+
+MessageOptions withCheckBox(MessageOptions options)
+{
+    options.checkBox = true;
+    return options;
+}
+
+MessageOptions withMoreTexts(MessageOptions options)
+{
+    options.informativeText = options.detailedText = true;
+    return options;
+}
+
+} // namespace
+
+MessageBoxPage::MessageBoxPage(Appearance *appearance, QWidget *parent)
+    : QWidget(parent)
+{
+    auto *open = new QPushButton(tr("Open"));
+    open->setDefault(true);
+    connect(open, &QPushButton::clicked, this, &MessageBoxPage::open);
+    auto *choices = new QVBoxLayout;
+    choices->setSpacing(10);
+    choices->addWidget(createChoices());
+    choices->addWidget(open, 0, Qt::AlignLeft);
+    choices->addStretch();
+
+    m_code = new QPlainTextEdit;
+    m_code->setReadOnly(true);
+    QFont font(QStringLiteral("monospace"));
+    font.setStyleHint(QFont::Monospace);
+    font.setPixelSize(CodePixels);
+    m_code->setFont(font);
+    m_code->setAccessibleName(tr("Code"));
+    m_code->setFixedHeight(110);
+    auto *result = new QVBoxLayout;
+    result->setSpacing(10);
+    result->addWidget(createPreview(), 1);
+    result->addWidget(m_code);
+
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(PageMargins);
+    layout->setSpacing(16);
+    layout->addLayout(choices);
+    layout->addLayout(result, 1);
+    connect(appearance, &Appearance::changed, this, &MessageBoxPage::refresh);
+}
+
+MessageBoxPage::~MessageBoxPage() = default;
+
+Page MessageBoxPage::page()
+{
+    return {QStringLiteral("message-boxes"),
+            tr("Message boxes"),
+            tr("QMessageBox in a frameless dialog: change the class name, and code moves over."),
+            [](Appearance *appearance, QWidget *parent) -> QWidget * {
+                return new MessageBoxPage(appearance, parent);
+            },
+            {{QStringLiteral("question"),
+              [](QWidget *parent) { return createExhibit(plain(QMessageBox::Question, Plain, 2), parent); }},
+             {QStringLiteral("warning"),
+              [](QWidget *parent) {
+                  return createExhibit(withCheckBox(plain(QMessageBox::Warning, Plain, 1)), parent);
+              }},
+             {QStringLiteral("critical"),
+              [](QWidget *parent) { return createExhibit(plain(QMessageBox::Critical, Long, 5), parent); }},
+             {QStringLiteral("information"),
+              [](QWidget *parent) {
+                  return createExhibit(withMoreTexts(plain(QMessageBox::Information, Long, 3)), parent);
+              }},
+             {QStringLiteral("chinese"), [](QWidget *parent) {
+                  return createExhibit(withMoreTexts(plain(QMessageBox::Warning, Chinese, 2)), parent);
+              }}}};
+}
+
+QWidget *MessageBoxPage::createChoices()
+{
+    QStringList calls;
+    for (const char *name : CallNames)
+        calls.append(QLatin1String(name) + QStringLiteral("()"));
+    QStringList icons;
+    for (const QMessageBox::Icon icon : Icons)
+        icons.append(nameOf(icon));
+    const auto currentIcon = std::find(std::begin(Icons), std::end(Icons), m_options.icon);
+    m_icons = createList(icons, int(currentIcon - std::begin(Icons)),
+                         [this](int row) { m_options.icon = Icons[row]; });
+    m_parts = {createSwitch(tr("Informative text"), &MessageOptions::informativeText),
+               createSwitch(tr("Check box"), &MessageOptions::checkBox),
+               createSwitch(tr("Details"), &MessageOptions::detailedText)};
+
+    auto *group = new QGroupBox(tr("Message box"));
+    auto *layout = new QGridLayout(group);
+    layout->setColumnStretch(1, 1);
+    addFormRow(layout, tr("Call"),
+               createList(calls, m_options.call, [this](int row) { m_options.call = row; }));
+    addFormRow(layout, tr("Icon"), m_icons);
+    addFormRow(layout, tr("Text"),
+               createList({tr("Plain"), tr("Rich"), tr("Long"), tr("Chinese")}, m_options.text,
+                          [this](int row) { m_options.text = row; }));
+    addFormRow(layout, tr("Buttons"), createList(buttonSetTitles(), m_options.buttons, [this](int row) {
+                   m_options.buttons = row;
+               }));
+    for (QCheckBox *part : qAsConst(m_parts))
+        layout->addWidget(part, layout->rowCount(), 0, 1, 2, Qt::AlignLeft);
+    return group;
+}
+
+QWidget *MessageBoxPage::createPreview()
+{
+    auto *stage = new StyleSheetWidget(this);
+    stage->setObjectName(QStringLiteral("galleryStage"));
+    m_preview = new PictureView(stage);
+    m_preview->setAccessibleName(tr("Picture of the message box"));
+    m_outcome = createNote(tr("Not opened yet"));
+    m_outcome->setAlignment(Qt::AlignCenter);
+
+    auto *layout = new QVBoxLayout(stage);
+    layout->setContentsMargins(8, 8, 8, 8);
+    layout->addWidget(m_preview, 1);
+    layout->addWidget(m_outcome);
+    return stage;
+}
+
+QComboBox *MessageBoxPage::createList(const QStringList &entries, int current,
+                                      std::function<void(int)> onChanged)
+{
+    QComboBox *list = createComboBox();
+    list->addItems(entries);
+    list->setCurrentIndex(current);
+    list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    list->setMinimumContentsLength(12);
+    connect(list, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            [this, onChanged = std::move(onChanged)](int row) {
+                onChanged(row);
+                refresh();
+            });
+    return list;
+}
+
+QCheckBox *MessageBoxPage::createSwitch(const QString &text, bool MessageOptions::*option)
+{
+    return createCheckBox(text, m_options.*option, [this, option](bool on) {
+        m_options.*option = on;
+        refresh();
+    });
+}
+
+void MessageBoxPage::open()
+{
+    if (m_options.call != Exec) {
+        openCall();
+        return;
+    }
+    // Watched, since the page may be deleted meanwhile, and the box with it.
+    const QPointer<Box> box = createBox(m_options, this);
+    const int result = box->exec();
+    if (!box)
+        return;
+    delete box;
+    showOutcome(result);
+}
+
+void MessageBoxPage::openCall()
+{
+    const QPointer<MessageBoxPage> alive(this);
+    const QString title = titleFor(m_options.text);
+    const QString text = mainText(m_options.text);
+    const Buttons buttons = ButtonSets[m_options.buttons];
+    int result = QMessageBox::Ok;
+    switch (m_options.call) {
+    case Information:
+        result = Box::information(this, title, text, buttons);
+        break;
+    case Question:
+        result = Box::question(this, title, text, buttons);
+        break;
+    case Warning:
+        result = Box::warning(this, title, text, buttons);
+        break;
+    case Critical:
+        result = Box::critical(this, title, text, buttons);
+        break;
+    case About:
+        Box::about(this, title, text);
+        break;
+    default:
+        Box::aboutQt(this);
+        break;
+    }
+    if (alive)
+        showOutcome(result);
+}
+
+void MessageBoxPage::showOutcome(int result)
+{
+    const QString name = result ? nameOf(Button(result)) : QString();
+    m_outcome->setText(name.isEmpty() ? tr("Result: %1").arg(result)
+                                      : tr("Result: %1").arg(QStringLiteral("QMessageBox::") + name));
+}
+
+void MessageBoxPage::refresh()
+{
+    const bool isBox = m_options.call == Exec;
+    m_icons->setEnabled(isBox);
+    for (QCheckBox *part : qAsConst(m_parts))
+        part->setEnabled(isBox);
+    m_code->setPlainText(isBox ? codeOfBox(m_options) : codeOfCall(m_options));
+    if (m_options.call == AboutQt) {
+        m_preview->setPicture(QPixmap());
+        return;
+    }
+
+    // A box has its size once it is shown.
+    const std::unique_ptr<Box> model(createBox(isBox ? m_options : shownByCall(m_options), nullptr));
+    if (m_options.call == About)
+        model->setIconPixmap(model->windowIcon().pixmap(64));
+    model->setModal(false);
+    model->setAttribute(Qt::WA_DontShowOnScreen);
+    model->setAttribute(Qt::WA_ShowWithoutActivating);
+    model->show();
+    m_preview->setPicture(model->grab());
+}
+
+void MessageBoxPage::showEvent(QShowEvent *event)
+{
+    refresh();
+    QWidget::showEvent(event);
+}
+
+} // namespace Gallery

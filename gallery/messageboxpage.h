@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 the tarnwidgets developers
+// SPDX-License-Identifier: MIT
+
+#ifndef GALLERY_MESSAGEBOXPAGE_H
+#define GALLERY_MESSAGEBOXPAGE_H
+
+#include "page.h"
+
+#include <QMessageBox>
+#include <QWidget>
+#include <functional>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QPlainTextEdit;
+
+namespace Tarn::Widgets {
+class FramelessMessageBox;
+}
+
+namespace Gallery {
+
+class PictureView;
+
+/*! What a message box of the page shows; the numbers are rows of the page's lists. */
+struct MessageOptions
+{
+    int call = 0;
+    QMessageBox::Icon icon = QMessageBox::Question;
+    int text = 0;
+    int buttons = 2;
+    bool informativeText = false;
+    bool checkBox = false;
+    bool detailedText = false;
+};
+
+/*! Choices for a message box, a picture of it, the code that makes it, and a button that opens it. */
+class MessageBoxPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MessageBoxPage(Appearance *appearance, QWidget *parent = nullptr);
+    ~MessageBoxPage() override;
+
+    static Page page();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    QWidget *createChoices();
+    QWidget *createPreview();
+    QComboBox *createList(const QStringList &entries, int current, std::function<void(int)> onChanged);
+    QCheckBox *createSwitch(const QString &text, bool MessageOptions::*option);
+
+    void open();
+    void openCall();
+    void showOutcome(int result);
+    void refresh();
+
+    MessageOptions m_options;
+    QComboBox *m_icons = nullptr;
+    QVector<QCheckBox *> m_parts; // that only a box of one's own can have
+    PictureView *m_preview = nullptr;
+    QPlainTextEdit *m_code = nullptr;
+    QLabel *m_outcome = nullptr;
+};
+
+} // namespace Gallery
+
+#endif
