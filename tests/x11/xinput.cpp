@@ -103,6 +103,17 @@ bool XInput::key(unsigned long keySymbol)
     return sendKey(keySymbol) && m_server->settle();
 }
 
+bool XInput::keyWith(unsigned long heldSymbol, unsigned long keySymbol)
+{
+    const KeyCode held = XKeysymToKeycode(m_server->display(), heldSymbol);
+    if (held == 0)
+        return false;
+    XTestFakeKeyEvent(m_server->display(), held, True, CurrentTime);
+    const bool isSent = sendKey(keySymbol);
+    XTestFakeKeyEvent(m_server->display(), held, False, CurrentTime);
+    return m_server->settle() && isSent;
+}
+
 bool XInput::type(const QString &text)
 {
     // The key symbols of Latin 1 are its codes.

@@ -42,6 +42,9 @@ public:
     /*! Presses and releases a key, given as an X key symbol such as XK_Escape. */
     bool key(unsigned long keySymbol);
 
+    /*! The same while another key, such as XK_Control_L, is held. */
+    bool keyWith(unsigned long heldSymbol, unsigned long keySymbol);
+
     /*! Latin lower-case letters, digits and spaces. */
     bool type(const QString &text);
 
