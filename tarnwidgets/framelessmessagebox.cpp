@@ -209,6 +209,7 @@ void FramelessMessageBox::setWindowTitle(const QString &title)
 void FramelessMessageBox::setWindowModality(Qt::WindowModality modality)
 {
     FramelessDialog::setWindowModality(modality);
+    // Kept: these flags take the place of all others.
     const bool isSheet = parentWidget() && modality == Qt::WindowModal;
     setParent(parentWidget(), isSheet ? Qt::Sheet : Qt::Dialog);
 }

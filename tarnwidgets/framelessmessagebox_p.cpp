@@ -230,6 +230,7 @@ void FramelessMessageBoxPrivate::addTexts(QGridLayout *grid)
 void FramelessMessageBoxPrivate::addCheckBox(QGridLayout *grid)
 {
     const int textColumn = hasIcon() ? 2 : 1;
+    // Kept: the text above reaches into this row, so that the two come close, or overlap.
     grid->addWidget(checkbox, informativeLabel ? 2 : 1, textColumn, 1, 1, Qt::AlignLeft);
     grid->addItem(new QSpacerItem(1, 7, QSizePolicy::Fixed, QSizePolicy::Fixed), grid->rowCount(), 0, 1, 1);
 }
@@ -405,6 +406,7 @@ void FramelessMessageBoxPrivate::toggleDetails()
 
 void FramelessMessageBoxPrivate::detectEscapeButton()
 {
+    // Kept: the details button counts as any other, so that it and OK are two, neither of them for escaping.
     const QList<QAbstractButton *> buttons = buttonBox->buttons();
     if (escapeButton)
         detectedEscapeButton = escapeButton;
