@@ -229,12 +229,6 @@ MessageOptions plain(QMessageBox::Icon icon, int text, int buttons)
     return options;
 }
 
-MessageOptions withCheckBox(MessageOptions options)
-{
-    options.checkBox = true;
-    return options;
-}
-
 MessageOptions withMoreTexts(MessageOptions options)
 {
     options.informativeText = options.detailedText = true;
@@ -289,9 +283,7 @@ Page MessageBoxPage::page()
             {{QStringLiteral("question"),
               [](QWidget *parent) { return createExhibit(plain(QMessageBox::Question, Plain, 2), parent); }},
              {QStringLiteral("warning"),
-              [](QWidget *parent) {
-                  return createExhibit(withCheckBox(plain(QMessageBox::Warning, Plain, 1)), parent);
-              }},
+              [](QWidget *parent) { return createExhibit(plain(QMessageBox::Warning, Rich, 1), parent); }},
              {QStringLiteral("critical"),
               [](QWidget *parent) { return createExhibit(plain(QMessageBox::Critical, Long, 5), parent); }},
              {QStringLiteral("information"),
