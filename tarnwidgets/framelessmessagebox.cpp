@@ -43,10 +43,13 @@ constexpr ButtonText ButtonTexts[] = {
     {QMessageBox::Reset, QT_TRANSLATE_NOOP("Tarn::Widgets::FramelessMessageBox", "Reset")},
 };
 
-bool wrapsWords(const QLabel *label)
+void wrapWordsOfRichText(QLabel *label)
 {
     const Qt::TextFormat format = label->textFormat();
-    return format == Qt::RichText || (format == Qt::AutoText && Qt::mightBeRichText(label->text()));
+    const bool wraps =
+        format == Qt::RichText || (format == Qt::AutoText && Qt::mightBeRichText(label->text()));
+    if (label->wordWrap() != wraps)
+        label->setWordWrap(wraps);
 }
 
 QDialogButtonBox::StandardButton toButtonBox(QMessageBox::StandardButton button)
@@ -92,7 +95,7 @@ QString FramelessMessageBox::text() const
 void FramelessMessageBox::setText(const QString &text)
 {
     d->label->setText(text);
-    d->label->setWordWrap(wrapsWords(d->label));
+    wrapWordsOfRichText(d->label);
     d->updateSize();
 }
 
@@ -126,7 +129,7 @@ Qt::TextFormat FramelessMessageBox::textFormat() const
 void FramelessMessageBox::setTextFormat(Qt::TextFormat format)
 {
     d->label->setTextFormat(format);
-    d->label->setWordWrap(wrapsWords(d->label));
+    wrapWordsOfRichText(d->label);
     d->updateSize();
 }
 

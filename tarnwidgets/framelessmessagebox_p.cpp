@@ -16,6 +16,7 @@
 #include <QStyleOptionButton>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <QtMath>
 
 namespace Tarn::Widgets {
 
@@ -44,6 +45,18 @@ void setPolicy(QLabel *label, QSizePolicy::Policy horizontal, QSizePolicy::Polic
     label->setSizePolicy(policy);
 }
 
+QSize roundedUp(const QSizeF &size)
+{
+    return QSize(qCeil(size.width()), qCeil(size.height()));
+}
+
+/* A style sheet is costly even if it is the one that is there. */
+void giveStyleSheet(QWidget *widget, const QString &styleSheet)
+{
+    if (widget->styleSheet() != styleSheet)
+        widget->setStyleSheet(styleSheet);
+}
+
 QRect availableGeometryUnderCursor()
 {
     const QScreen *screen = QGuiApplication::screenAt(QCursor::pos());
@@ -51,6 +64,104 @@ QRect availableGeometryUnderCursor()
 }
 
 } // namespace
+
+// Texts
+
+bool MessageLabel::isIgnored() const
+{
+    const QSizePolicy policy = sizePolicy();
+    return policy.horizontalPolicy() == QSizePolicy::Ignored
+        && policy.verticalPolicy() == QSizePolicy::Ignored;
+}
+
+bool MessageLabel::isMeasuredHere() const
+{
+    const bool plain =
+        textFormat() == Qt::PlainText || (textFormat() == Qt::AutoText && !Qt::mightBeRichText(text()));
+    const bool selectable =
+        textInteractionFlags() & (Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    return plain && selectable && !text().isEmpty() && frameWidth() == 0 && margin() == 0 && indent() < 0
+        && minimumSize().isNull();
+}
+
+void MessageLabel::followText() const
+{
+    if (m_measuredText == text() && m_measuredFont == font())
+        return;
+    m_measuredText = text();
+    m_measuredFont = font();
+    m_sizes[0] = m_sizes[1] = Sizes();
+    m_heights.clear();
+    m_document.setUndoRedoEnabled(false);
+    m_document.setDocumentMargin(0);
+    m_document.setDefaultFont(m_measuredFont);
+    m_document.setPlainText(m_measuredText);
+}
+
+void MessageLabel::followWordWrap() const
+{
+    const QTextOption::WrapMode mode = wordWrap() ? QTextOption::WordWrap : QTextOption::ManualWrap;
+    QTextOption option = m_document.defaultTextOption();
+    if (option.wrapMode() == mode)
+        return;
+    option.setWrapMode(mode);
+    m_document.setDefaultTextOption(option);
+}
+
+QSize MessageLabel::measure(qreal width) const
+{
+    m_document.setTextWidth(width);
+    return roundedUp(m_document.size());
+}
+
+const MessageLabel::Sizes &MessageLabel::sizes() const
+{
+    ensurePolished();
+    followText();
+    Sizes &sizes = m_sizes[wordWrap()];
+    if (sizes.hint.isValid())
+        return sizes;
+    followWordWrap();
+    if (wordWrap()) {
+        m_document.adjustSize();
+        sizes.hint = roundedUp(m_document.size());
+        const QSize unwrapped = m_sizes[0].hint.isValid() ? m_sizes[0].hint : measure(QWIDGETSIZE_MAX);
+        sizes.minimum = QSize(measure(0).width(), qMin(sizes.hint.height(), unwrapped.height()));
+    } else {
+        sizes.hint = sizes.minimum = measure(-1);
+    }
+    return sizes;
+}
+
+QSize MessageLabel::sizeHint() const
+{
+    if (isIgnored())
+        return QSize(0, 0);
+    return isMeasuredHere() ? sizes().hint.grownBy(contentsMargins()) : QLabel::sizeHint();
+}
+
+QSize MessageLabel::minimumSizeHint() const
+{
+    if (isIgnored())
+        return QSize(0, 0);
+    return isMeasuredHere() ? sizes().minimum.grownBy(contentsMargins()) : QLabel::minimumSizeHint();
+}
+
+int MessageLabel::heightForWidth(int width) const
+{
+    if (!isMeasuredHere() || !wordWrap())
+        return QLabel::heightForWidth(width);
+    ensurePolished();
+    followText();
+    const QMargins margins = contentsMargins();
+    const int textWidth = qMax(0, width - margins.left() - margins.right());
+    int &height = m_heights[textWidth];
+    if (height == 0) {
+        followWordWrap();
+        height = measure(textWidth).height();
+    }
+    return height + margins.top() + margins.bottom();
+}
 
 // Details
 
@@ -145,7 +256,7 @@ void FramelessMessageBoxPrivate::init(const QString &title, const QString &text)
     box->setOKButtonVisible(false);
     box->setCancelButtonVisible(false);
 
-    label = new QLabel;
+    label = new MessageLabel;
     label->setObjectName(QStringLiteral("qt_msgbox_label"));
     label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     label->setTextInteractionFlags(textInteractionFlagsOf(box));
@@ -221,9 +332,9 @@ void FramelessMessageBoxPrivate::addTexts(QGridLayout *grid)
     if (withIcon)
         grid->addWidget(iconLabel, 0, 0, 1, 1, Qt::AlignTop);
     grid->addWidget(label, 0, textColumn, 1, 2);
-    label->setStyleSheet(QStringLiteral("font-size:16px;color:#e67007;"));
+    giveStyleSheet(label, QStringLiteral("font-size:16px;color:#e67007;"));
     grid->addWidget(informativeLabel, 1, textColumn, 2, 2);
-    informativeLabel->setStyleSheet(QStringLiteral("font-size:14px;"));
+    giveStyleSheet(informativeLabel, QStringLiteral("font-size:14px;"));
     grid->setContentsMargins(20, 10, 20, 24);
 }
 
@@ -270,7 +381,8 @@ int FramelessMessageBoxPrivate::widthForTexts(int hardLimit, int softLimit)
 {
     if (informativeLabel)
         setPolicy(informativeLabel, QSizePolicy::Ignored, QSizePolicy::Ignored, false);
-    label->setWordWrap(false);
+    if (label->wordWrap())
+        label->setWordWrap(false);
     int width = layoutMinimumWidth();
     label->setWordWrap(true);
     if (width > softLimit)
@@ -354,9 +466,9 @@ void FramelessMessageBoxPrivate::setPixmap(const QPixmap &pixmap)
     icon = QMessageBox::NoIcon;
 }
 
-QLabel *FramelessMessageBoxPrivate::createInformativeLabel() const
+MessageLabel *FramelessMessageBoxPrivate::createInformativeLabel() const
 {
-    auto *informative = new QLabel;
+    auto *informative = new MessageLabel;
     informative->setObjectName(QStringLiteral("qt_msgbox_informativelabel"));
     informative->setTextInteractionFlags(textInteractionFlagsOf(box));
     informative->setAlignment(Qt::AlignVCenter | Qt::AlignLeft);

@@ -10,15 +10,52 @@
 #include "framelessmessagebox.h"
 
 #include <QCheckBox>
+#include <QHash>
+#include <QLabel>
 #include <QPointer>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QTextEdit>
 
 class QDialogButtonBox;
 class QGridLayout;
-class QLabel;
 
 namespace Tarn::Widgets {
+
+/*!
+ * A label that answers as a QLabel does, but measures a plain text only once: for each answer QLabel lays out
+ * a selectable text up to a dozen times.
+ */
+class MessageLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
+
+private:
+    /*! The sizes of a text, without the contents margins. */
+    struct Sizes
+    {
+        QSize hint;
+        QSize minimum;
+    };
+
+    bool isIgnored() const;
+    bool isMeasuredHere() const;
+    void followText() const;
+    void followWordWrap() const;
+    const Sizes &sizes() const;
+    QSize measure(qreal width) const;
+
+    mutable QTextDocument m_document;
+    mutable QString m_measuredText;
+    mutable QFont m_measuredFont;
+    mutable Sizes m_sizes[2]; // not wrapped, wrapped
+    mutable QHash<int, int> m_heights; // by width, wrapped
+};
 
 /*! The area that shows the detailed text. */
 class QMessageBoxDetailsText : public QWidget
@@ -86,7 +123,7 @@ public:
     void createDetails();
     void removeDetails();
     void toggleDetails();
-    QLabel *createInformativeLabel() const;
+    MessageLabel *createInformativeLabel() const;
 
     void detectEscapeButton();
     QAbstractButton *onlyButtonOfRole(QMessageBox::ButtonRole role) const;
@@ -101,7 +138,7 @@ public:
     static QMessageBox::StandardButton execAndDelete(FramelessMessageBox *box);
 
     FramelessMessageBox *const box;
-    QLabel *label = nullptr;
+    MessageLabel *label = nullptr;
     QMessageBox::Icon icon = QMessageBox::NoIcon;
     QLabel *iconLabel = nullptr;
     QDialogButtonBox *buttonBox = nullptr;
@@ -114,7 +151,7 @@ public:
     QPointer<QMessageBoxDetailsText> detailsText;
     bool autoAddOkButton = true;
     QPointer<QAbstractButton> detectedEscapeButton;
-    QPointer<QLabel> informativeLabel;
+    QPointer<MessageLabel> informativeLabel;
     QPointer<QObject> receiverToDisconnectOnClose;
     QByteArray memberToDisconnectOnClose;
     QByteArray signalToDisconnectOnClose;

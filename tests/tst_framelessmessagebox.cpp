@@ -212,6 +212,7 @@ private Q_SLOTS:
     void foreignButtonIsLeftAlone();
     void resultCodesFollowTheOrderOfAddition();
     void setOfButtonsForgetsTheSpecialOnesOfTheFormer();
+    void setOfButtonsForgetsThoseTakenBehindItsBack();
     void newButtonAtADeadOnesAddressIsNotTakenForIt();
     void defaultButtonIsDefaultAndFocused();
     void strangersAreNeitherDefaultNorEscapeButton();
@@ -770,6 +771,21 @@ void tst_FramelessMessageBox::setOfButtonsForgetsTheSpecialOnesOfTheFormer()
     QCOMPARE(box.escapeButton(), custom); // still there
     QCOMPARE(box.standardButtons(), Buttons(QMessageBox::Save));
     QCOMPARE(box.buttons().size(), 2);
+}
+
+void tst_FramelessMessageBox::setOfButtonsForgetsThoseTakenBehindItsBack()
+{
+    FramelessMessageBox box;
+    const std::unique_ptr<QPushButton> custom(
+        box.addButton(QStringLiteral("custom"), QMessageBox::AcceptRole));
+    box.setDefaultButton(custom.get());
+    box.setEscapeButton(custom.get());
+    buttonBoxOf(box)->removeButton(custom.get());
+    QCOMPARE(box.defaultButton(), custom.get());
+
+    box.setStandardButtons(QMessageBox::Save);
+    QVERIFY(!box.defaultButton());
+    QVERIFY(!box.escapeButton());
 }
 
 void tst_FramelessMessageBox::newButtonAtADeadOnesAddressIsNotTakenForIt()

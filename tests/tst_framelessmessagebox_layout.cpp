@@ -25,6 +25,7 @@ using namespace Tarn::Test;
 using Tarn::Widgets::DetailButton;
 using Tarn::Widgets::FramelessMessageBox;
 using Tarn::Widgets::FramelessMessageBoxPrivate;
+using Tarn::Widgets::MessageLabel;
 using Tarn::Widgets::QMessageBoxDetailsText;
 
 namespace {
@@ -168,15 +169,21 @@ int outerHeight(const Box &box)
     return box.noCentralHeight() + 10;
 }
 
+/* What is done with a label before its texts come. */
+using Prepare = std::function<void(QLabel *)>;
+
 } // namespace
 
 Q_DECLARE_METATYPE(QMessageBox::Icon)
+Q_DECLARE_METATYPE(Prepare)
 
 class tst_FramelessMessageBoxLayout : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void labelGivesTheSizesOfQLabel_data();
+    void labelGivesTheSizesOfQLabel();
     void init()
     {
         m_guard.emplace();
@@ -868,6 +875,86 @@ void tst_FramelessMessageBoxLayout::minimumSizeOfTheCallerIsOverwritten()
     box.setMinimumSize(600, 500);
     show(box);
     QCOMPARE(box.size(), QSize(400, 220));
+}
+
+void tst_FramelessMessageBoxLayout::labelGivesTheSizesOfQLabel_data()
+{
+    QTest::addColumn<Prepare>("prepare");
+    QTest::newRow("as it comes") << Prepare([](QLabel *) {});
+    QTest::newRow("selectable") << Prepare(
+        [](QLabel *label) { label->setTextInteractionFlags(Qt::TextSelectableByMouse); });
+    QTest::newRow("selectable by keys")
+        << Prepare([](QLabel *label) { label->setTextInteractionFlags(Qt::TextSelectableByKeyboard); });
+    QTest::newRow("contents margins") << Prepare([](QLabel *label) {
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->setContentsMargins(3, 7, 5, 11);
+    });
+    QTest::newRow("margin and indent") << Prepare([](QLabel *label) {
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->setMargin(4);
+        label->setIndent(9);
+    });
+    QTest::newRow("frame") << Prepare([](QLabel *label) {
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->setFrameStyle(QFrame::Box | QFrame::Plain);
+        label->setLineWidth(3);
+    });
+    QTest::newRow("style sheet") << Prepare([](QLabel *label) {
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->setStyleSheet(QStringLiteral("font-size: 23px; padding: 5px; border: 2px solid red;"));
+    });
+    QTest::newRow("plain text") << Prepare([](QLabel *label) {
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->setTextFormat(Qt::PlainText);
+    });
+    QTest::newRow("rich text") << Prepare([](QLabel *label) {
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->setTextFormat(Qt::RichText);
+    });
+    QTest::newRow("least width") << Prepare([](QLabel *label) {
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->setMinimumSize(120, 60);
+    });
+}
+
+void tst_FramelessMessageBoxLayout::labelGivesTheSizesOfQLabel()
+{
+    QFETCH(const Prepare, prepare);
+    MessageLabel ours;
+    QLabel qts;
+    const std::initializer_list<QLabel *> both = {&ours, &qts};
+    for (QLabel *label : both)
+        prepare(label);
+
+    // Each text follows another in the same label, so that nothing kept from the former may show.
+    const QStringList texts = {
+        QStringLiteral("short"),
+        QString(),
+        QStringLiteral("two\nlines"),
+        QStringLiteral("some words that are too many for a narrow label but not for a wide one"),
+        QStringLiteral("<b>bold</b> and <i>italic</i>"),
+        QStringLiteral("averylongwordthatnolabelcanwrapanywhere in between"),
+        QString::fromUtf8("\u8bb0\u5f55\u5df2\u4fdd\u5b58 \u786e\u5b9a \u53d6\u6d88"),
+        QStringLiteral("a &amp; b   with   spaces \n\n and empty lines\n"),
+        QStringLiteral("word ").repeated(200),
+    };
+    for (const int pixels : {11, 16}) {
+        for (const QString &text : texts) {
+            for (const bool wraps : {false, true, false, true}) {
+                for (QLabel *label : both) {
+                    QFont font;
+                    font.setPixelSize(pixels);
+                    label->setFont(font);
+                    label->setText(text);
+                    label->setWordWrap(wraps);
+                }
+                QCOMPARE(ours.sizeHint(), qts.sizeHint());
+                QCOMPARE(ours.minimumSizeHint(), qts.minimumSizeHint());
+                for (const int width : {0, 1, 40, 133, 134, 400, 2000})
+                    QCOMPARE(ours.heightForWidth(width), qts.heightForWidth(width));
+            }
+        }
+    }
 }
 
 QTEST_MAIN(tst_FramelessMessageBoxLayout)
