@@ -35,10 +35,10 @@ using Buttons = QMessageBox::StandardButtons;
 
 constexpr int CodePixels = 12;
 
-enum Call { Exec, Information, Question, Warning, Critical, About, AboutQt };
+enum Call { Exec, Open, Information, Question, Warning, Critical, About, AboutQt };
 
-constexpr const char *CallNames[] = {"exec",     "information", "question", "warning",
-                                     "critical", "about",       "aboutQt"};
+constexpr const char *CallNames[] = {"exec",    "open",     "information", "question",
+                                     "warning", "critical", "about",       "aboutQt"};
 
 constexpr QMessageBox::Icon Icons[] = {QMessageBox::NoIcon, QMessageBox::Information, QMessageBox::Warning,
                                        QMessageBox::Critical, QMessageBox::Question};
@@ -46,14 +46,16 @@ constexpr QMessageBox::Icon Icons[] = {QMessageBox::NoIcon, QMessageBox::Informa
 enum Text { Plain, Rich, Long, Chinese };
 
 // The last is two buttons of the application's own.
-const Buttons ButtonSets[] = {QMessageBox::Ok,
-                              QMessageBox::Ok | QMessageBox::Cancel,
-                              QMessageBox::Yes | QMessageBox::No,
-                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
-                              QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore,
-                              QMessageBox::Yes | QMessageBox::YesToAll | QMessageBox::No
-                                  | QMessageBox::NoToAll | QMessageBox::Cancel,
-                              QMessageBox::NoButton};
+const Buttons ButtonSets[] = {
+    QMessageBox::Ok,
+    QMessageBox::Ok | QMessageBox::Cancel,
+    QMessageBox::Yes | QMessageBox::No,
+    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+    QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore,
+    QMessageBox::Yes | QMessageBox::YesToAll | QMessageBox::No | QMessageBox::NoToAll | QMessageBox::Cancel,
+    QMessageBox::Open | QMessageBox::Close | QMessageBox::Help,
+    QMessageBox::SaveAll | QMessageBox::Apply | QMessageBox::Reset | QMessageBox::RestoreDefaults,
+    QMessageBox::NoButton};
 
 /* The name of a value in one of QMessageBox's enumerations; null for unknown ones. */
 QString nameIn(const char *enumeration, int value)
@@ -107,7 +109,7 @@ QString mainText(int text)
             "pressure falls, and the tank behind it will be empty within the hour. Switch "
             "it off now?");
     case Chinese:
-        return QStringLiteral("水泵压力低于下限。要现在关闭水泵吗?");
+        return QStringLiteral("水泵压力低于下限。要现在关闭水泵吗？");
     default:
         return MessageBoxPage::tr("Switch the pump off?");
     }
@@ -115,7 +117,7 @@ QString mainText(int text)
 
 QString informativeText(int text)
 {
-    return text == Chinese ? QStringLiteral("关闭后,后面的水箱将在一小时内排空。")
+    return text == Chinese ? QStringLiteral("关闭后，后面的水箱将在一小时内排空。")
                            : MessageBoxPage::tr("The tank behind it will be empty within an hour.");
 }
 
@@ -137,6 +139,16 @@ void addOwnButtons(Box *box)
     box->addButton(MessageBoxPage::tr("Later"), QMessageBox::RejectRole);
 }
 
+bool isBuiltStepByStep(const MessageOptions &options)
+{
+    return options.call == Exec || options.call == Open;
+}
+
+bool isCallWithButtons(const MessageOptions &options)
+{
+    return options.call >= Information && options.call < About;
+}
+
 Box *createBox(const MessageOptions &options, QWidget *parent)
 {
     const Buttons buttons = ButtonSets[options.buttons];
@@ -149,6 +161,8 @@ Box *createBox(const MessageOptions &options, QWidget *parent)
         box->setCheckBox(new QCheckBox(checkBoxText(options.text)));
     if (options.detailedText)
         box->setDetailedText(detailedText(options.text));
+    if (options.noCloseButton)
+        box->setCloseButtonVisible(false);
     return box;
 }
 
@@ -159,9 +173,30 @@ MessageOptions shownByCall(const MessageOptions &options)
                                                       QMessageBox::Warning, QMessageBox::Critical};
     MessageOptions shown;
     shown.text = options.text;
+    shown.noCloseButton = options.noCloseButton && isCallWithButtons(options);
     shown.buttons = options.call == About ? 0 : options.buttons;
     shown.icon = options.call == About ? QMessageBox::NoIcon : CallIcons[options.call - Information];
     return shown;
+}
+
+Button call(const MessageOptions &options, QWidget *parent)
+{
+    using Function = Button (*)(QWidget *, const QString &, const QString &, Buttons, Button);
+    static constexpr Function Functions[] = {Box::information, Box::question, Box::warning, Box::critical};
+    return Functions[options.call - Information](parent, titleFor(options.text), mainText(options.text),
+                                                 ButtonSets[options.buttons], QMessageBox::NoButton);
+}
+
+/* The property is for style sheets. */
+Button callWithProperty(const MessageOptions &options, QWidget *parent)
+{
+    using Function =
+        Button (*)(QWidget *, const QString &, const QString &, char *, bool, Buttons, Button, bool);
+    static constexpr Function Functions[] = {Box::information, Box::question, Box::warning, Box::critical};
+    char isAlarm[] = "isAlarm";
+    return Functions[options.call - Information](parent, titleFor(options.text), mainText(options.text),
+                                                 isAlarm, true, ButtonSets[options.buttons],
+                                                 QMessageBox::NoButton, false);
 }
 
 QString quoted(QString text)
@@ -178,33 +213,43 @@ QString codeOfButtons(Buttons buttons)
 
 QString codeOfCall(const MessageOptions &options)
 {
-    QString code = QStringLiteral("FramelessMessageBox::%1(this").arg(QLatin1String(CallNames[options.call]));
+    const bool hasProperty = isCallWithButtons(options) && options.noCloseButton;
+    QString code = hasProperty ? QStringLiteral("char isAlarm[] = \"isAlarm\";\n") : QString();
+    code += QStringLiteral("FramelessMessageBox::%1(this").arg(QLatin1String(CallNames[options.call]));
     if (options.call != AboutQt)
         code +=
             QStringLiteral(", %1, %2").arg(quoted(titleFor(options.text)), quoted(mainText(options.text)));
-    if (options.call < About)
-        code += QStringLiteral(", ") + codeOfButtons(ButtonSets[options.buttons]);
+    const QString buttons = codeOfButtons(ButtonSets[options.buttons]);
+    if (hasProperty)
+        code += QStringLiteral(", isAlarm, true, %1, QMessageBox::NoButton, false").arg(buttons);
+    else if (isCallWithButtons(options))
+        code += QStringLiteral(", ") + buttons;
     return code + QStringLiteral(");");
 }
 
 QString codeOfBox(const MessageOptions &options)
 {
     const Buttons buttons = ButtonSets[options.buttons];
-    QStringList lines = {QStringLiteral("FramelessMessageBox box(QMessageBox::%1, %2, %3, %4, this);")
-                             .arg(nameOf(options.icon), quoted(titleFor(options.text)),
-                                  quoted(mainText(options.text)), codeOfButtons(buttons))};
-    const auto add = [&lines](bool isWanted, const QString &format, const QString &text) {
+    const bool isOpened = options.call == Open;
+    const QString format = isOpened
+        ? QStringLiteral("auto *box = new FramelessMessageBox(QMessageBox::%1, %2, %3, %4, this);")
+        : QStringLiteral("FramelessMessageBox box(QMessageBox::%1, %2, %3, %4, this);");
+    const QString call = isOpened ? QStringLiteral("box->") : QStringLiteral("box.");
+    QStringList lines = {format.arg(nameOf(options.icon), quoted(titleFor(options.text)),
+                                    quoted(mainText(options.text)), codeOfButtons(buttons))};
+    const auto add = [&](bool isWanted, const QString &function, const QString &text) {
         if (isWanted)
-            lines.append(format.arg(quoted(text)));
+            lines.append(call + function.arg(quoted(text)));
     };
-    add(!buttons, QStringLiteral("box.addButton(%1, QMessageBox::AcceptRole);"),
+    add(!buttons, QStringLiteral("addButton(%1, QMessageBox::AcceptRole);"),
         MessageBoxPage::tr("Switch off"));
-    add(!buttons, QStringLiteral("box.addButton(%1, QMessageBox::RejectRole);"), MessageBoxPage::tr("Later"));
-    add(options.informativeText, QStringLiteral("box.setInformativeText(%1);"),
-        informativeText(options.text));
-    add(options.checkBox, QStringLiteral("box.setCheckBox(new QCheckBox(%1));"), checkBoxText(options.text));
-    add(options.detailedText, QStringLiteral("box.setDetailedText(%1);"), detailedText(options.text));
-    lines.append(QStringLiteral("box.exec();"));
+    add(!buttons, QStringLiteral("addButton(%1, QMessageBox::RejectRole);"), MessageBoxPage::tr("Later"));
+    add(options.informativeText, QStringLiteral("setInformativeText(%1);"), informativeText(options.text));
+    add(options.checkBox, QStringLiteral("setCheckBox(new QCheckBox(%1));"), checkBoxText(options.text));
+    add(options.detailedText, QStringLiteral("setDetailedText(%1);"), detailedText(options.text));
+    lines.append(isOpened ? QStringLiteral("box->setAttribute(Qt::WA_DeleteOnClose);\n"
+                                           "box->open(this, SLOT(showOutcome(QAbstractButton*)));")
+                          : QStringLiteral("box.exec();"));
     return lines.join(QLatin1Char('\n'));
 }
 
@@ -309,6 +354,7 @@ QWidget *MessageBoxPage::createChoices()
     m_parts = {createSwitch(tr("Informative text"), &MessageOptions::informativeText),
                createSwitch(tr("Check box"), &MessageOptions::checkBox),
                createSwitch(tr("Details"), &MessageOptions::detailedText)};
+    m_noCloseButton = createSwitch(tr("No close button"), &MessageOptions::noCloseButton);
 
     auto *group = new QGroupBox(tr("Message box"));
     auto *layout = new QGridLayout(group);
@@ -324,6 +370,7 @@ QWidget *MessageBoxPage::createChoices()
                }));
     for (QCheckBox *part : qAsConst(m_parts))
         layout->addWidget(part, layout->rowCount(), 0, 1, 2, Qt::AlignLeft);
+    layout->addWidget(m_noCloseButton, layout->rowCount(), 0, 1, 2, Qt::AlignLeft);
     return group;
 }
 
@@ -369,12 +416,18 @@ QCheckBox *MessageBoxPage::createSwitch(const QString &text, bool MessageOptions
 
 void MessageBoxPage::open()
 {
+    if (m_options.call == Open) {
+        Box *box = createBox(optionsOfBox(), this);
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->open(this, SLOT(showOutcome(QAbstractButton *)));
+        return;
+    }
     if (m_options.call != Exec) {
         openCall();
         return;
     }
     // Watched, since the page may be deleted meanwhile, and the box with it.
-    const QPointer<Box> box = createBox(m_options, this);
+    const QPointer<Box> box = createBox(optionsOfBox(), this);
     const int result = box->exec();
     if (!box)
         return;
@@ -382,28 +435,26 @@ void MessageBoxPage::open()
     showOutcome(result);
 }
 
+MessageOptions MessageBoxPage::optionsOfBox() const
+{
+    MessageOptions options = m_options;
+    options.noCloseButton = false;
+    return options;
+}
+
 void MessageBoxPage::openCall()
 {
     const QPointer<MessageBoxPage> alive(this);
-    const QString title = titleFor(m_options.text);
-    const QString text = mainText(m_options.text);
-    const Buttons buttons = ButtonSets[m_options.buttons];
     int result = QMessageBox::Ok;
     switch (m_options.call) {
     case Information:
-        result = Box::information(this, title, text, buttons);
-        break;
     case Question:
-        result = Box::question(this, title, text, buttons);
-        break;
     case Warning:
-        result = Box::warning(this, title, text, buttons);
-        break;
     case Critical:
-        result = Box::critical(this, title, text, buttons);
+        result = m_options.noCloseButton ? callWithProperty(m_options, this) : call(m_options, this);
         break;
     case About:
-        Box::about(this, title, text);
+        Box::about(this, titleFor(m_options.text), mainText(m_options.text));
         break;
     default:
         Box::aboutQt(this);
@@ -411,6 +462,11 @@ void MessageBoxPage::openCall()
     }
     if (alive)
         showOutcome(result);
+}
+
+void MessageBoxPage::showOutcome(QAbstractButton *button)
+{
+    m_outcome->setText(tr("Clicked: %1").arg(button->text().remove(QLatin1Char('&'))));
 }
 
 void MessageBoxPage::showOutcome(int result)
@@ -422,10 +478,11 @@ void MessageBoxPage::showOutcome(int result)
 
 void MessageBoxPage::refresh()
 {
-    const bool isBox = m_options.call == Exec;
+    const bool isBox = isBuiltStepByStep(m_options);
     m_icons->setEnabled(isBox);
     for (QCheckBox *part : qAsConst(m_parts))
         part->setEnabled(isBox);
+    m_noCloseButton->setEnabled(isCallWithButtons(m_options));
     m_code->setPlainText(isBox ? codeOfBox(m_options) : codeOfCall(m_options));
     if (m_options.call == AboutQt) {
         m_preview->setPicture(QPixmap());
@@ -433,7 +490,7 @@ void MessageBoxPage::refresh()
     }
 
     // A box has its size once it is shown.
-    const std::unique_ptr<Box> model(createBox(isBox ? m_options : shownByCall(m_options), nullptr));
+    const std::unique_ptr<Box> model(createBox(isBox ? optionsOfBox() : shownByCall(m_options), nullptr));
     if (m_options.call == About)
         model->setIconPixmap(model->windowIcon().pixmap(64));
     model->setModal(false);

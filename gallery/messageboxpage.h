@@ -10,6 +10,7 @@
 #include <QWidget>
 #include <functional>
 
+class QAbstractButton;
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -33,6 +34,7 @@ struct MessageOptions
     bool informativeText = false;
     bool checkBox = false;
     bool detailedText = false;
+    bool noCloseButton = false; // of a one-call function
 };
 
 /*! Choices for a message box, a picture of it, the code that makes it, and a button that opens it. */
@@ -49,6 +51,9 @@ public:
 protected:
     void showEvent(QShowEvent *event) override;
 
+private Q_SLOTS:
+    void showOutcome(QAbstractButton *button);
+
 private:
     QWidget *createChoices();
     QWidget *createPreview();
@@ -58,11 +63,13 @@ private:
     void open();
     void openCall();
     void showOutcome(int result);
+    MessageOptions optionsOfBox() const;
     void refresh();
 
     MessageOptions m_options;
     QComboBox *m_icons = nullptr;
     QVector<QCheckBox *> m_parts; // that only a box of one's own can have
+    QCheckBox *m_noCloseButton = nullptr;
     PictureView *m_preview = nullptr;
     QPlainTextEdit *m_code = nullptr;
     QLabel *m_outcome = nullptr;

@@ -151,6 +151,7 @@ private Q_SLOTS:
     void messageBoxIsMadeAsTheCodeTells();
     void messageBoxTellsItsResult_data();
     void messageBoxTellsItsResult();
+    void messageBoxCallLeavesOutTheCloseButton();
 
     void chosenWidthReachesAllLines();
 
@@ -469,6 +470,7 @@ void tst_GalleryPages::messageBoxTellsItsResult_data()
                             << QString::fromLatin1(result);
     };
     add("exec()", "&Yes", "Result: QMessageBox::Yes");
+    add("open()", "&No", "Clicked: No");
     add("information()", "&No", "Result: QMessageBox::No");
     add("question()", "&Yes", "Result: QMessageBox::Yes");
     add("warning()", "&No", "Result: QMessageBox::No");
@@ -494,8 +496,25 @@ void tst_GalleryPages::messageBoxTellsItsResult()
         findByText<QPushButton>(dialog->findChild<QDialogButtonBox *>(), button)->click();
     });
     stage.click(QStringLiteral("Open"));
-    QVERIFY(driver.ran());
+    QTRY_VERIFY(driver.ran());
     QVERIFY(findByText<QLabel>(stage.page.get(), result));
+}
+
+void tst_GalleryPages::messageBoxCallLeavesOutTheCloseButton()
+{
+    const Stage stage(QStringLiteral("message-boxes"));
+    stage.page->findChild<QComboBox *>()->setCurrentText(QStringLiteral("warning()"));
+    stage.setSwitch(QStringLiteral("No close button"), true);
+    const QString code = stage.page->findChild<QPlainTextEdit *>()->toPlainText();
+    QVERIFY(code.contains(QStringLiteral("isAlarm, true, QMessageBox::Yes | QMessageBox::No")));
+    ModalDriver driver([](QWidget *dialog) {
+        auto *box = qobject_cast<FramelessMessageBox *>(dialog);
+        QVERIFY(!box->getCloseButtonVisible());
+        QCOMPARE(box->property("isAlarm"), QVariant(true));
+        box->button(QMessageBox::No)->click();
+    });
+    stage.click(QStringLiteral("Open"));
+    QVERIFY(driver.ran());
 }
 
 void tst_GalleryPages::chosenWidthReachesAllLines()
