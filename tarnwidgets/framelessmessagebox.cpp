@@ -223,6 +223,10 @@ void FramelessMessageBox::addButton(QAbstractButton *button, QMessageBox::Button
         return;
     removeButton(button);
     d->buttonBox->addButton(button, QDialogButtonBox::ButtonRole(role));
+    if (!buttons().contains(button)) {
+        button->setParent(this); // refused for its unknown role, and owned all the same
+        return;
+    }
     d->customButtonList.append(button);
     d->autoAddOkButton = false;
 }
@@ -231,8 +235,6 @@ QPushButton *FramelessMessageBox::addButton(const QString &text, QMessageBox::Bu
 {
     auto *button = new QPushButton(text);
     addButton(button, role);
-    if (!button->parent())
-        button->setParent(this); // of an unknown role, so refused by the button box: owned all the same
     d->updateSize();
     return button;
 }
@@ -248,7 +250,8 @@ QPushButton *FramelessMessageBox::addButton(QMessageBox::StandardButton button)
     }
     if (created) {
         d->autoAddOkButton = false;
-        d->ownTextButtons.append(button);
+        if (!d->ownTextButtons.contains(button))
+            d->ownTextButtons.append(button);
     }
     retranslateButtonUi(button);
     return created;
@@ -399,6 +402,7 @@ void FramelessMessageBox::keyPressEvent(QKeyEvent *event)
 {
     const bool detailsVisible = d->detailsText && d->detailsText->isVisible();
     if (event->matches(QKeySequence::Cancel)) {
+        event->accept();
         if (d->detectedEscapeButton)
             d->detectedEscapeButton->click();
     } else if (event->matches(QKeySequence::Copy) && detailsVisible && d->detailsText->copy()) {
@@ -439,6 +443,7 @@ void FramelessMessageBox::showEvent(QShowEvent *event)
 
     setCloseButtonVisible(getCloseButtonVisible() && d->detectedEscapeButton);
     FramelessDialog::showEvent(event);
+    d->chooseDefaultButton();
 }
 
 void FramelessMessageBox::changeEvent(QEvent *event)

@@ -79,6 +79,7 @@ public:
     static constexpr ButtonRole NoRole = QMessageBox::NoRole;
     static constexpr ButtonRole ResetRole = QMessageBox::ResetRole;
     static constexpr ButtonRole ApplyRole = QMessageBox::ApplyRole;
+    static constexpr ButtonRole NRoles = QMessageBox::NRoles;
 
     static constexpr StandardButton NoButton = QMessageBox::NoButton;
     static constexpr StandardButton Ok = QMessageBox::Ok;
@@ -99,8 +100,13 @@ public:
     static constexpr StandardButton Apply = QMessageBox::Apply;
     static constexpr StandardButton Reset = QMessageBox::Reset;
     static constexpr StandardButton RestoreDefaults = QMessageBox::RestoreDefaults;
+    static constexpr StandardButton FirstButton = QMessageBox::FirstButton;
+    static constexpr StandardButton LastButton = QMessageBox::LastButton;
 
+    /*! An empty box; it gets an OK button when it is shown without any. */
     explicit FramelessMessageBox(QWidget *parent = nullptr);
+
+    /*! \a f is taken together with the flags of a frameless dialog and Qt::X11BypassWindowManagerHint. */
     FramelessMessageBox(QMessageBox::Icon icon, const QString &title, const QString &text,
                         QMessageBox::StandardButtons buttons = QMessageBox::NoButton,
                         QWidget *parent = nullptr,
@@ -149,7 +155,11 @@ public:
      */
     void setWindowModality(Qt::WindowModality modality);
 
-    /*! The box takes ownership. Null is ignored; a button that is already there moves to the end. */
+    /*!
+     * The box takes ownership, also where \a role is unknown and the button is
+     * not shown. Null is ignored; a button that is already there moves to the
+     * end. Take a button out of another box before it is added here.
+     */
     void addButton(QAbstractButton *button, QMessageBox::ButtonRole role);
 
     /*! A new button, owned by the box. Its result code is its place among the buttons that were added with a
@@ -180,7 +190,7 @@ public:
     void setDefaultButton(QPushButton *button);
     void setDefaultButton(QMessageBox::StandardButton button);
 
-    /*! The button that Escape and closing click, as set here; null if that is left to the box. */
+    /*! The button that Escape clicks and closing gives, as set here; null if that is left to the box. */
     QAbstractButton *escapeButton() const;
     void setEscapeButton(QAbstractButton *button);
     void setEscapeButton(QMessageBox::StandardButton button);
@@ -222,8 +232,9 @@ public:
 
     /*!
      * The same for a box that carries the dynamic property \a propertyName, for
-     * the style sheet, and is placed in the middle of \a parent's size, counted
-     * from the screen's origin.
+     * the style sheet, unless that is null, and is placed in the middle of
+     * \a parent's size, counted from the screen's origin. Without its close
+     * button it ends by its buttons and by Escape.
      */
     static QMessageBox::StandardButton
     information(QWidget *parent, const QString &title, const QString &text, char *propertyName,

@@ -60,7 +60,9 @@ void giveStyleSheet(QWidget *widget, const QString &styleSheet)
 QRect availableGeometryUnderCursor()
 {
     const QScreen *screen = QGuiApplication::screenAt(QCursor::pos());
-    return (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    return screen ? screen->availableGeometry() : QRect();
 }
 
 } // namespace
@@ -255,8 +257,12 @@ void FramelessMessageBoxPrivate::init(const QString &title, const QString &text)
     box->setMinimumSize(SmallestBox);
     box->setOKButtonVisible(false);
     box->setCancelButtonVisible(false);
+    box->setOKButtonDefault(false);
+    // Else QDialog counts these hidden buttons among those that take the focus and the default.
+    for (QPushButton *hidden : {box->m_pOKButton, box->m_pCancelButton, box->m_pApplyButton})
+        hidden->setFocusPolicy(Qt::NoFocus);
 
-    label = new MessageLabel;
+    label = new MessageLabel(box); // first among what takes the focus
     label->setObjectName(QStringLiteral("qt_msgbox_label"));
     label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     label->setTextInteractionFlags(textInteractionFlagsOf(box));
@@ -370,6 +376,7 @@ void FramelessMessageBoxPrivate::updateSize()
     const int hardLimit = hardWidthLimit(screenWidth);
     const int softLimit = softWidthLimit(screenWidth);
 
+    // Kept: the buttons have no say in the width, so that those that do not fit get narrower.
     const int width = qMax(widthForTexts(hardLimit, softLimit), qMin(widthForTitle(), hardLimit));
     box->layout()->activate();
     const int height = heightForWidth(width) + 10 + box->noCentralHeight();
@@ -516,6 +523,24 @@ void FramelessMessageBoxPrivate::toggleDetails()
 
 // Buttons
 
+void FramelessMessageBoxPrivate::chooseDefaultButton()
+{
+    // QDialog does the same, but before the box has its automatic OK.
+    const QList<QAbstractButton *> buttons = buttonBox->buttons();
+    for (QAbstractButton *button : buttons) {
+        const auto *push = qobject_cast<QPushButton *>(button);
+        if (push && push->isDefault())
+            return;
+    }
+    for (QWidget *next = box->nextInFocusChain(); next != box; next = next->nextInFocusChain()) {
+        auto *push = qobject_cast<QPushButton *>(next);
+        if (push && push->isVisibleTo(box) && push->autoDefault() && push->focusPolicy() != Qt::NoFocus) {
+            push->setDefault(true);
+            return;
+        }
+    }
+}
+
 void FramelessMessageBoxPrivate::detectEscapeButton()
 {
     // Kept: the details button counts as any other, so that it and OK are two, neither of them for escaping.
@@ -548,6 +573,8 @@ QAbstractButton *FramelessMessageBoxPrivate::onlyButtonOfRole(QMessageBox::Butto
 
 int FramelessMessageBoxPrivate::execReturnCode(QAbstractButton *button) const
 {
+    if (!button)
+        return -1;
     const int code = buttonBox->standardButton(button);
     return code != QDialogButtonBox::NoButton ? code : customButtonList.indexOf(button);
 }
@@ -558,12 +585,13 @@ void FramelessMessageBoxPrivate::buttonClicked(QAbstractButton *button)
         toggleDetails();
         return;
     }
-    // Whoever hears that the dialog is done may delete it.
+    // Whoever hears that the dialog is done may delete it, or its buttons.
     const QPointer<FramelessMessageBox> alive(box);
     clickedButton = button;
+    const QPointer<QAbstractButton> clicked(button);
     box->done(execReturnCode(button));
-    if (alive)
-        Q_EMIT box->buttonClicked(button);
+    if (alive && clicked)
+        Q_EMIT box->buttonClicked(clicked);
     if (!alive)
         return;
     if (receiverToDisconnectOnClose) {
@@ -608,10 +636,15 @@ QMessageBox::StandardButton FramelessMessageBoxPrivate::execAndDelete(FramelessM
 {
     // Whoever deletes the parent meanwhile deletes the box, which is why it is not on the stack.
     const QPointer<FramelessMessageBox> alive(box);
-    const QMessageBox::StandardButton closing = box->d->closingResult();
+    QMessageBox::StandardButton answer = box->d->closingResult();
+    QObject context;
+    QObject::connect(box, &QDialog::finished, &context, [&answer, box] {
+        if (box->clickedButton())
+            answer = box->standardButton(box->clickedButton());
+    });
     const int result = box->exec();
     if (!alive)
-        return closing;
+        return answer;
     const QMessageBox::StandardButton clicked = box->standardButton(box->clickedButton());
     delete box;
     return result == -1 ? QMessageBox::Cancel : clicked;

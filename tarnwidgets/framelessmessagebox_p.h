@@ -43,7 +43,7 @@ private:
         QSize minimum;
     };
 
-    bool isIgnored() const;
+    bool isIgnored() const; // layouts ask, and have no use for the answer
     bool isMeasuredHere() const;
     void followText() const;
     void followWordWrap() const;
@@ -125,6 +125,7 @@ public:
     void toggleDetails();
     MessageLabel *createInformativeLabel() const;
 
+    void chooseDefaultButton();
     void detectEscapeButton();
     QAbstractButton *onlyButtonOfRole(QMessageBox::ButtonRole role) const;
     int execReturnCode(QAbstractButton *button) const;

@@ -21,6 +21,7 @@
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextEdit>
 #include <memory>
 #include <optional>
 #include <tarnwidgets/framelessmessagebox.h>
@@ -207,7 +208,9 @@ private Q_SLOTS:
     void customButtonTakesItsRoleAndPlace_data();
     void customButtonTakesItsRoleAndPlace();
     void buttonAddedTwiceIsListedOnce();
+    void buttonOfUnknownRoleIsOwnedAllTheSame_data();
     void buttonOfUnknownRoleIsOwnedAllTheSame();
+    void refusedButtonDoesNotReplaceTheAutomaticOk();
     void removedButtonLivesAndIsForgotten();
     void foreignButtonIsLeftAlone();
     void resultCodesFollowTheOrderOfAddition();
@@ -229,6 +232,8 @@ private Q_SLOTS:
     void boxMayBeDeletedByWhoeverHearsOfTheClick();
     void closingGivesTheEscapeButton();
     void closingWithAButtonThatWasTakenOutGivesMinusOne();
+    void closingWithDeadButtonsGivesMinusOne();
+    void clickOfAButtonThatDiesMeanwhileIsNotReported();
     void closeButtonIsHiddenWithoutAnEscapeButton();
     void hiddenCloseButtonStaysHidden();
     void detailsButtonDoesNotEndTheBox();
@@ -237,6 +242,7 @@ private Q_SLOTS:
     // Keys
     void shortcutKeyClicksWithoutModifier_data();
     void shortcutKeyClicksWithoutModifier();
+    void altIsLeftToTheMnemonic();
     void firstOfTwoEqualShortcutsIsClicked();
     void escapeGoesNoFurther();
     void copyAndSelectAllReachTheDetails();
@@ -248,12 +254,15 @@ private Q_SLOTS:
     void openConnectsByMember_data();
     void openConnectsByMember();
     void openDisconnectsAfterOneClick();
+    void openLeavesLaterConnectionsAlone();
     void openSurvivesADeadReceiver();
     void windowModalityReplacesTheFlags_data();
     void windowModalityReplacesTheFlags();
 
     // Changes
     void languageChangeReachesDetailsAndOwnTexts();
+    void languageChangeLeavesTheTextsOfASetToQt();
+    void newDetailsAreClosed();
     void styleChangeReachesIconFlagsAndCentring();
 
     // Bad input
@@ -691,16 +700,42 @@ void tst_FramelessMessageBox::buttonAddedTwiceIsListedOnce()
     QCOMPARE(outcome.code(), 1);
 }
 
+void tst_FramelessMessageBox::buttonOfUnknownRoleIsOwnedAllTheSame_data()
+{
+    QTest::addColumn<int>("role");
+    QTest::newRow("unknown") << 4711;
+    QTest::newRow("invalid") << int(QMessageBox::InvalidRole);
+}
+
 void tst_FramelessMessageBox::buttonOfUnknownRoleIsOwnedAllTheSame()
 {
-    m_guard->sentry().expect(QtWarningMsg, QStringLiteral("Invalid ButtonRole"));
-    QPointer<QPushButton> button;
+    QFETCH(int, role);
+    for (int i = 0; i < 3; ++i)
+        m_guard->sentry().expect(QtWarningMsg, QStringLiteral("Invalid ButtonRole"));
+    QPointer<QPushButton> made;
+    QPointer<QPushButton> given = new QPushButton;
+    QPointer<QPushButton> again = new QPushButton;
     {
         FramelessMessageBox box;
-        button = box.addButton(QStringLiteral("odd"), Role(4711));
+        made = box.addButton(QStringLiteral("odd"), Role(role));
+        box.addButton(given, Role(role));
+        box.addButton(again, QMessageBox::AcceptRole);
+        box.addButton(again, Role(role));
         QVERIFY(box.buttons().isEmpty());
     }
-    QVERIFY(!button);
+    QVERIFY(!made);
+    QVERIFY(!given);
+    QVERIFY(!again);
+}
+
+void tst_FramelessMessageBox::refusedButtonDoesNotReplaceTheAutomaticOk()
+{
+    m_guard->sentry().expect(QtWarningMsg, QStringLiteral("Invalid ButtonRole"));
+    FramelessMessageBox box;
+    box.addButton(QStringLiteral("odd"), Role(4711));
+    show(box);
+    QCOMPARE(box.standardButtons(), Buttons(QMessageBox::Ok));
+    QVERIFY(box.close());
 }
 
 void tst_FramelessMessageBox::removedButtonLivesAndIsForgotten()
@@ -1023,9 +1058,12 @@ void tst_FramelessMessageBox::closingGivesTheEscapeButton()
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     show(box);
     const Outcome outcome(box);
+    bool nothingClickedYet = false;
+    connect(&box, &QDialog::finished, this, [&] { nothingClickedYet = !box.clickedButton(); });
     QVERIFY(box.close());
     QCOMPARE(outcome.clicks.count(), 0);
     QCOMPARE(outcome.code(), 0); // told from inside the close event
+    QVERIFY(nothingClickedYet);
     QCOMPARE(box.clickedButton(), box.button(QMessageBox::No));
     QCOMPARE(box.result(), int(QMessageBox::No));
 }
@@ -1040,6 +1078,30 @@ void tst_FramelessMessageBox::closingWithAButtonThatWasTakenOutGivesMinusOne()
     QVERIFY(box.close());
     QCOMPARE(box.result(), -1);
     QCOMPARE(box.clickedButton(), no.get());
+}
+
+void tst_FramelessMessageBox::closingWithDeadButtonsGivesMinusOne()
+{
+    FramelessMessageBox box;
+    QPushButton *escape = box.addButton(QStringLiteral("escape"), QMessageBox::RejectRole);
+    delete box.addButton(QStringLiteral("other"), QMessageBox::AcceptRole);
+    show(box);
+    connect(&box, &QDialog::finished, escape, [escape] { delete escape; });
+    QVERIFY(box.close());
+    QCOMPARE(box.result(), -1);
+    QVERIFY(!box.clickedButton());
+}
+
+void tst_FramelessMessageBox::clickOfAButtonThatDiesMeanwhileIsNotReported()
+{
+    FramelessMessageBox box;
+    box.setStandardButtons(QMessageBox::Save);
+    show(box);
+    const Outcome outcome(box);
+    connect(&box, &QDialog::finished, &box, [&box] { box.setStandardButtons(QMessageBox::Ok); });
+    box.button(QMessageBox::Save)->click();
+    QCOMPARE(outcome.code(), int(QMessageBox::Save));
+    QCOMPARE(outcome.clicks.count(), 0);
 }
 
 void tst_FramelessMessageBox::closeButtonIsHiddenWithoutAnEscapeButton()
@@ -1140,6 +1202,23 @@ void tst_FramelessMessageBox::shortcutKeyClicksWithoutModifier()
         QTRY_COMPARE(outcome.code(), result);
 }
 
+void tst_FramelessMessageBox::altIsLeftToTheMnemonic()
+{
+    class Box : public FramelessMessageBox
+    {
+    public:
+        using FramelessMessageBox::keyPressEvent;
+    };
+    Box box;
+    QPushButton *yes = box.addButton(QMessageBox::Yes);
+    show(box);
+    for (const Qt::KeyboardModifier modifier : {Qt::AltModifier, Qt::NoModifier}) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Y, modifier);
+        box.keyPressEvent(&press);
+        QCOMPARE(yes->isDown(), modifier == Qt::NoModifier);
+    }
+}
+
 void tst_FramelessMessageBox::firstOfTwoEqualShortcutsIsClicked()
 {
     FramelessMessageBox box;
@@ -1159,6 +1238,7 @@ void tst_FramelessMessageBox::escapeGoesNoFurther()
     show(box);
     const Outcome outcome(box);
     QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    press.ignore();
     QCoreApplication::sendEvent(&box, &press);
     QVERIFY(press.isAccepted());
     QVERIFY(box.isVisible());
@@ -1188,9 +1268,11 @@ void tst_FramelessMessageBox::copyAndSelectAllReachTheDetails()
 
     // WHEN all is selected, THEN it is copied
     QKeyEvent all(QEvent::KeyPress, Qt::Key_A, Qt::ControlModifier);
+    all.ignore();
     QCoreApplication::sendEvent(&box, &all);
     QVERIFY(all.isAccepted());
     QKeyEvent copy(QEvent::KeyPress, Qt::Key_C, Qt::ControlModifier);
+    copy.ignore();
     QCoreApplication::sendEvent(&box, &copy);
     QVERIFY(copy.isAccepted());
     QCOMPARE(clipboard->text(), QStringLiteral("details to copy"));
@@ -1283,6 +1365,22 @@ void tst_FramelessMessageBox::openDisconnectsAfterOneClick()
     QCOMPARE(receiver.buttons.count(), 1);
 }
 
+void tst_FramelessMessageBox::openLeavesLaterConnectionsAlone()
+{
+    Receiver receiver;
+    FramelessMessageBox box;
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box.open(&receiver, SLOT(takeButton(QAbstractButton *)));
+    box.button(QMessageBox::Yes)->click();
+    QCOMPARE(receiver.buttons.count(), 1);
+
+    // WHEN the application connects the two itself, THEN further clicks leave that alone
+    connect(&box, SIGNAL(buttonClicked(QAbstractButton *)), &receiver, SLOT(takeButton(QAbstractButton *)));
+    box.button(QMessageBox::Yes)->click();
+    box.button(QMessageBox::Yes)->click();
+    QCOMPARE(receiver.buttons.count(), 3);
+}
+
 void tst_FramelessMessageBox::openSurvivesADeadReceiver()
 {
     FramelessMessageBox box;
@@ -1353,6 +1451,31 @@ void tst_FramelessMessageBox::languageChangeReachesDetailsAndOwnTexts()
     }
     QTRY_COMPARE(details->text(), QStringLiteral("Show Details..."));
     QCOMPARE(box.button(QMessageBox::Cancel)->text(), QStringLiteral("&Cancel"));
+}
+
+void tst_FramelessMessageBox::languageChangeLeavesTheTextsOfASetToQt()
+{
+    FramelessMessageBox box;
+    box.addButton(QMessageBox::Save);
+    box.setStandardButtons(QMessageBox::Save);
+    const QString text = box.button(QMessageBox::Save)->text();
+    const Brackets brackets(Context);
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(&box, &change);
+    QCOMPARE(box.button(QMessageBox::Save)->text(), text);
+}
+
+void tst_FramelessMessageBox::newDetailsAreClosed()
+{
+    FramelessMessageBox box;
+    box.setDetailedText(QStringLiteral("details"));
+    show(box);
+    QPushButton *button = detailsButton(box);
+    button->click();
+    QCOMPARE(button->text(), QStringLiteral("Hide Details..."));
+    delete box.findChild<QTextEdit *>()->parentWidget();
+    box.setDetailedText(QStringLiteral("new ones"));
+    QCOMPARE(detailsButton(box)->text(), QStringLiteral("Show Details..."));
 }
 
 void tst_FramelessMessageBox::styleChangeReachesIconFlagsAndCentring()

@@ -241,6 +241,8 @@ private Q_SLOTS:
     void longInformativeWordWidensUpToTheHardLimit_data();
     void longInformativeWordWidensUpToTheHardLimit();
     void heightIsThatOfTheContentAndTheBars();
+    void buttonsHaveNoSayInTheWidth();
+    void detailButtonIsAsLargeAsTheGlobalStrut();
     void visibleBoxFollowsItsTexts();
     void partsAddedToAVisibleBoxCountOnceTheyAreShown();
     void togglingTheDetailsTwiceRestoresTheSize();
@@ -816,6 +818,30 @@ void tst_FramelessMessageBoxLayout::heightIsThatOfTheContentAndTheBars()
     QVERIFY(box.height() > 220);
 }
 
+// Kept: those that do not fit get narrower.
+void tst_FramelessMessageBoxLayout::buttonsHaveNoSayInTheWidth()
+{
+    Box box;
+    for (int i = 0; i < 8; ++i)
+        box.addButton(QStringLiteral("A button with a long text"), QMessageBox::ActionRole);
+    show(box);
+    QCOMPARE(box.width(), 400);
+    const QList<QAbstractButton *> buttons = box.buttons();
+    QVERIFY(buttons.first()->width() < buttons.first()->sizeHint().width());
+}
+
+void tst_FramelessMessageBoxLayout::detailButtonIsAsLargeAsTheGlobalStrut()
+{
+    const QSize strut(300, 80);
+    const DetailButton button(nullptr);
+    QVERIFY(button.sizeHint().width() < strut.width());
+    QVERIFY(button.sizeHint().height() < strut.height());
+    QApplication::setGlobalStrut(strut);
+    const QSize hint = button.sizeHint();
+    QApplication::setGlobalStrut(QSize());
+    QCOMPARE(hint, strut);
+}
+
 void tst_FramelessMessageBoxLayout::visibleBoxFollowsItsTexts()
 {
     Box box;
@@ -827,6 +853,12 @@ void tst_FramelessMessageBoxLayout::visibleBoxFollowsItsTexts()
     QCOMPARE(box.size(), QSize(400, 220));
     box.setTextFormat(Qt::RichText);
     QCOMPARE(box.size(), QSize(400, 220));
+    box.setText(QStringLiteral("many<br>").repeated(40));
+    const int highAsRichText = box.height();
+    QVERIFY(highAsRichText > 220);
+    box.setTextFormat(Qt::PlainText);
+    QVERIFY(box.height() < highAsRichText); // one line of tags
+    box.setText(QStringLiteral("few"));
     box.setStandardButtons(QMessageBox::Ok);
     QCOMPARE(box.size(), QSize(400, 220));
 }

@@ -102,6 +102,7 @@ private Q_SLOTS:
     void longCallPlacesTheBoxByTheParentsSizeAlone();
     void deletedParentReturnsWhatClosingReturns_data();
     void deletedParentReturnsWhatClosingReturns();
+    void answerOutlivesTheParent();
     void callsMayNest();
 
     // About
@@ -441,6 +442,18 @@ void tst_FramelessMessageBoxOneCall::deletedParentReturnsWhatClosingReturns()
     QVERIFY(!parent);
     parent = new QWidget;
     QCOMPARE(FramelessMessageBox::question(parent, title(), text(), property, true, buttons), expected);
+    QVERIFY(!parent);
+    QVERIFY(driver.ran());
+}
+
+void tst_FramelessMessageBoxOneCall::answerOutlivesTheParent()
+{
+    QPointer<QWidget> parent = new QWidget;
+    ModalDriver driver([&](QWidget *dialog) {
+        boxOf(dialog)->button(QMessageBox::Yes)->click();
+        delete parent; // before exec() returns
+    });
+    QCOMPARE(FramelessMessageBox::question(parent, title(), text()), QMessageBox::Yes);
     QVERIFY(!parent);
     QVERIFY(driver.ran());
 }

@@ -50,6 +50,8 @@ struct Recipe
     QVector<Role> custom;
     bool addedOneByOne = false;
     bool details = false;
+    bool checkBox = false;
+    bool link = false;
     int defaultIndex = -1; // among buttons()
     int escapeIndex = -1;
 };
@@ -88,6 +90,12 @@ template <class Box> void build(Box &box, const Recipe &recipe)
             ->setProperty("number", QStringLiteral("custom %1").arg(i));
     if (recipe.details)
         box.setDetailedText(QStringLiteral("details"));
+    if (recipe.checkBox)
+        box.setCheckBox(new QCheckBox(QStringLiteral("check")));
+    if (recipe.link) {
+        box.setText(QStringLiteral("a <a href=\"x\">link</a>"));
+        box.setTextInteractionFlags(Qt::TextBrowserInteraction);
+    }
     const QList<QAbstractButton *> buttons = box.buttons();
     if (recipe.defaultIndex >= 0)
         box.setDefaultButton(qobject_cast<QPushButton *>(buttons.value(recipe.defaultIndex)));
@@ -137,6 +145,19 @@ template <class Box> QStringList everyOutcome(const Recipe &recipe)
     }));
     all.append(outcome<Box>(recipe, [](Box &box) { QTest::keyClick(&box, Qt::Key_Escape); }));
     all.append(outcome<Box>(recipe, [](Box &box) { QTest::keyClick(box.focusWidget(), Qt::Key_Return); }));
+    if (recipe.checkBox) {
+        all.append(outcome<Box>(recipe, [](Box &box) {
+            box.checkBox()->setFocus();
+            QTest::keyClick(box.checkBox(), Qt::Key_Return);
+        }));
+    }
+    if (recipe.link) {
+        all.append(outcome<Box>(recipe, [](Box &box) {
+            auto *label = box.template findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+            label->setFocus();
+            QTest::keyClick(label, Qt::Key_Return);
+        }));
+    }
     all.append(outcome<Box>(recipe, [](Box &box) { box.close(); }));
     all.append(outcome<Box>(recipe, [](Box &box) { box.buttons().last()->click(); }));
     return all;
@@ -165,6 +186,8 @@ Recipe randomRecipe(QRandomGenerator &random)
     for (int i = random.bounded(recipe.standard ? 3 : 4); i > 0; --i)
         recipe.custom.append(Role(random.bounded(int(QMessageBox::NRoles))));
     recipe.addedOneByOne = random.bounded(2);
+    recipe.checkBox = random.bounded(2);
+    recipe.link = random.bounded(4) == 0;
     const int count = recipe.custom.size() + int(qPopulationCount(uint(recipe.standard)));
     recipe.defaultIndex = count ? random.bounded(-count, count) : -1;
     recipe.escapeIndex = count ? random.bounded(-count, count) : -1;
@@ -179,6 +202,13 @@ template <class Box> int resultOfEscape(Box &box)
     box.setResult(Untouched);
     QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
     QCoreApplication::sendEvent(&box, &escape);
+    return box.result();
+}
+
+template <class Box> int resultOfClick(Box &box, Button button)
+{
+    box.setResult(Untouched);
+    box.button(button)->click();
     return box.result();
 }
 
@@ -309,12 +339,14 @@ private Q_SLOTS:
         m_guard.reset();
     }
 
-    void everySetAgreesOnOrderRolesAndEscape_data();
-    void everySetAgreesOnOrderRolesAndEscape();
+    void everySetAgrees_data();
+    void everySetAgrees();
     void pairsAgreeOnScreen_data();
     void pairsAgreeOnScreen();
     void customRolesAgreeOnScreen_data();
     void customRolesAgreeOnScreen();
+    void boxesWithOtherThingsToFocusAgree_data();
+    void boxesWithOtherThingsToFocusAgree();
     void randomBoxesAgreeOnScreen();
     void classNameIsAllThatChanges();
 
@@ -332,7 +364,7 @@ private:
     std::optional<FunctionGuard> m_guard;
 };
 
-void tst_FramelessMessageBoxQt::everySetAgreesOnOrderRolesAndEscape_data()
+void tst_FramelessMessageBoxQt::everySetAgrees_data()
 {
     QTest::addColumn<int>("shard");
     for (int shard = 0; shard < Shards; ++shard)
@@ -342,7 +374,7 @@ void tst_FramelessMessageBoxQt::everySetAgreesOnOrderRolesAndEscape_data()
 
 // A walk through all sets in which each differs from the last by one button, so that none is built from
 // nothing.
-void tst_FramelessMessageBoxQt::everySetAgreesOnOrderRolesAndEscape()
+void tst_FramelessMessageBoxQt::everySetAgrees()
 {
     QFETCH(int, shard);
 
@@ -354,6 +386,7 @@ void tst_FramelessMessageBoxQt::everySetAgreesOnOrderRolesAndEscape()
     qts.setStandardButtons(Buttons(set << 10));
     for (int step = shard * Length;; ++step) {
         QCOMPARE(int(ours.standardButtons()), set << 10);
+        QCOMPARE(ours.standardButton(ours.defaultButton()), qts.standardButton(qts.defaultButton()));
         if (namesAndRoles(ours) != namesAndRoles(qts))
             QCOMPARE(namesAndRoles(ours), namesAndRoles(qts));
         const int escaped = resultOfEscape(ours);
@@ -368,6 +401,11 @@ void tst_FramelessMessageBoxQt::everySetAgreesOnOrderRolesAndEscape()
         toggle(ours, changed);
         toggle(qts, changed);
         set = next;
+        if (set & (changed >> 10)) {
+            ours.setDefaultButton(changed);
+            qts.setDefaultButton(changed);
+            QCOMPARE(resultOfClick(ours, changed), resultOfClick(qts, changed));
+        }
     }
 }
 
@@ -404,6 +442,39 @@ void tst_FramelessMessageBoxQt::customRolesAgreeOnScreen()
     for (int second = first; second < QMessageBox::NRoles && !QTest::currentTestFailed(); ++second) {
         Recipe recipe;
         recipe.custom = {Role(first), Role(second)};
+        compare(recipe);
+    }
+}
+
+void tst_FramelessMessageBoxQt::boxesWithOtherThingsToFocusAgree_data()
+{
+    QTest::addColumn<int>("buttons");
+    QTest::addColumn<bool>("checkBox");
+    QTest::addColumn<bool>("link");
+    const std::initializer_list<std::pair<const char *, Buttons>> sets = {
+        {"no button", QMessageBox::NoButton},
+        {"OK and Cancel", QMessageBox::Ok | QMessageBox::Cancel},
+        {"Yes and No", QMessageBox::Yes | QMessageBox::No},
+    };
+    for (const auto &[name, buttons] : sets) {
+        QTest::addRow("%s and a check box", name) << int(buttons) << true << false;
+        QTest::addRow("%s and a link", name) << int(buttons) << false << true;
+        QTest::addRow("%s and both", name) << int(buttons) << true << true;
+    }
+}
+
+// Return reaches the default button from wherever the focus is.
+void tst_FramelessMessageBoxQt::boxesWithOtherThingsToFocusAgree()
+{
+    QFETCH(int, buttons);
+    Recipe recipe;
+    recipe.standard = Buttons(buttons);
+    QFETCH(bool, checkBox);
+    recipe.checkBox = checkBox;
+    QFETCH(bool, link);
+    recipe.link = link;
+    for (const bool oneByOne : {false, true}) {
+        recipe.addedOneByOne = oneByOne;
         compare(recipe);
     }
 }
