@@ -12,4 +12,12 @@
 #define TARNWIDGETS_EXPORT Q_DECL_IMPORT
 #endif
 
+// FramelessFileDialog stays inside unless the library is built to export it; its header is installed only
+// then.
+#if defined(TARNWIDGETS_BUILD) && !defined(TARN_EXPORT_FRAMELESS_FILE_DIALOG)
+#define TARNWIDGETS_FRAMELESSFILEDIALOG_EXPORT Q_DECL_HIDDEN
+#else
+#define TARNWIDGETS_FRAMELESSFILEDIALOG_EXPORT TARNWIDGETS_EXPORT
+#endif
+
 #endif
