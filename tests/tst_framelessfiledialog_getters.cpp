@@ -838,9 +838,13 @@ void tst_FramelessFileDialogGetters::fileThatIsNotThereIsNotReturned()
         auto *edit = part<QLineEdit>(dialog, "fileNameEdit");
         edit->setText(QStringLiteral("missing.txt"));
         QVERIFY(!acceptButton(dialog)->isEnabled());
-        QTest::keyClick(edit, Qt::Key_Return);
+        QTest::keyClick(edit, Qt::Key_Return); // returns when the message is closed
         QVERIFY(dialog->isVisible());
         cancel(dialog);
+    });
+    driver.then([](QWidget *message) {
+        QVERIFY(!dialogOf(message));
+        message->close();
     });
     QCOMPARE(FramelessFileDialog::getOpenFileName(m_parent.get(), caption(), m_dir.path()), QString());
     QVERIFY(driver.ran());
