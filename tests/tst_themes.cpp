@@ -32,6 +32,7 @@
 #include <QTextEdit>
 #include <QToolButton>
 #include <QToolTip>
+#include <QTreeWidget>
 #include <algorithm>
 #include <memory>
 #include <optional>
@@ -214,8 +215,8 @@ struct World
         button->setMenu(new QMenu(button));
         for (QWidget *widget : std::initializer_list<QWidget *>{
                  combo, button, new QLabel, new QToolButton, new QCheckBox, new QRadioButton, new QLineEdit,
-                 new QSpinBox, new QPlainTextEdit, new QTextEdit, new QListWidget, new QGroupBox,
-                 new QScrollArea, new QSizeGrip(content)})
+                 new QSpinBox, new QPlainTextEdit, new QTextEdit, new QListWidget, new QTreeWidget,
+                 new QGroupBox, new QScrollArea, new QSizeGrip(content)})
             layout->addWidget(widget);
         combo->view(); // made on demand
         window.setCentralWidget(content);
