@@ -10,8 +10,7 @@
 
 namespace Tarn::Widgets {
 
-/* A class with a meta-object of its own, which Qt never turns into a native dialog once it has its widgets.
- */
+/* Having a meta-object of its own, it never goes native once it has its widgets. */
 class InnerFileDialog : public QFileDialog
 {
     Q_OBJECT

@@ -12,8 +12,7 @@
 #define TARNWIDGETS_EXPORT Q_DECL_IMPORT
 #endif
 
-// FramelessFileDialog stays inside unless the library is built to export it; its header is installed only
-// then.
+// Visible only if the library is built so, and its header is installed only then.
 #if defined(TARNWIDGETS_BUILD) && !defined(TARN_EXPORT_FRAMELESS_FILE_DIALOG)
 #define TARNWIDGETS_FRAMELESSFILEDIALOG_EXPORT Q_DECL_HIDDEN
 #else

@@ -6,6 +6,7 @@ cmake_minimum_required(VERSION 3.16)
 
 set(here ${CMAKE_CURRENT_LIST_DIR})
 set(prefix ${SCRATCH_DIR}/prefix)
+set(consumer_sources ${here}/consumer/main.cpp ${here}/consumer/dialog.cpp)
 
 # run(command...): a command that has to succeed.
 function(run)
@@ -101,12 +102,12 @@ function(step_cmake)
 endfunction()
 
 function(step_pkgconfig)
-    build_by_pkgconfig(${SCRATCH_DIR}/pkgconfig ${prefix})
+    build_by_pkgconfig(${SCRATCH_DIR}/pkgconfig ${prefix} ${consumer_sources})
     set(ENV{LD_LIBRARY_PATH} ${prefix}/${LIBDIR})
     check_consumer(${SCRATCH_DIR}/pkgconfig/consumer "stand-in")
 endfunction()
 
-# build_by_pkgconfig(binary prefix): one compiler call with what pkg-config says.
+# build_by_pkgconfig(binary prefix source...): one compiler call with what pkg-config says.
 function(build_by_pkgconfig binary prefix)
     set(ENV{PKG_CONFIG_PATH} ${prefix}/${LIBDIR}/pkgconfig)
     run(${PKG_CONFIG} --validate tarnwidgets)
@@ -118,7 +119,7 @@ function(build_by_pkgconfig binary prefix)
     separate_arguments(flags UNIX_COMMAND "${flags}")
     file(REMOVE_RECURSE ${binary})
     file(MAKE_DIRECTORY ${binary})
-    run(${CXX} -std=c++17 -fPIC ${here}/consumer/main.cpp ${here}/consumer/dialog.cpp ${flags} -o ${binary}/consumer)
+    run(${CXX} -std=c++17 -fPIC ${ARGN} ${flags} -o ${binary}/consumer)
 endfunction()
 
 function(step_qmake)
@@ -152,7 +153,7 @@ function(use_device_utils scratch with_package)
     set(ENV{LD_LIBRARY_PATH} ${scratch}/prefix/${LIBDIR}:${scratch}/device/${LIBDIR})
     check_consumer(${scratch}/cmake/consumer "device")
 
-    build_by_pkgconfig(${scratch}/pkgconfig ${scratch}/prefix)
+    build_by_pkgconfig(${scratch}/pkgconfig ${scratch}/prefix ${consumer_sources})
     check_consumer(${scratch}/pkgconfig/consumer "device")
 endfunction()
 
@@ -162,6 +163,24 @@ endfunction()
 
 function(step_device_plain)
     use_device_utils(${SCRATCH_DIR}/device-plain OFF)
+endfunction()
+
+# The library with the class that it hides otherwise, and an application of that.
+function(step_file_dialog)
+    set(scratch ${SCRATCH_DIR}/file-dialog)
+    build(${PROJECT_DIR} ${scratch}/build
+        -DTARN_EXPORT_FRAMELESS_FILE_DIALOG=ON
+        -DTARN_BUILD_GALLERY=OFF
+        -DBUILD_TESTING=OFF)
+    install(${scratch}/build ${scratch}/prefix)
+    run(${CMAKE_COMMAND}
+        -D NM=${NM}
+        -D LIBRARY=${scratch}/prefix/${LIBDIR}/libtarnwidgets.so
+        -D CLASSES=${PROJECT_DIR}/tests/abi/tarnwidgets.classes
+        -P ${PROJECT_DIR}/tests/abi/check_symbols.cmake)
+    build_by_pkgconfig(${scratch}/pkgconfig ${scratch}/prefix ${here}/consumer/filedialog.cpp)
+    set(ENV{LD_LIBRARY_PATH} ${scratch}/prefix/${LIBDIR})
+    run(${scratch}/pkgconfig/consumer)
 endfunction()
 
 if(STEP STREQUAL "tree")
@@ -178,6 +197,8 @@ elseif(STEP STREQUAL "pkgconfig")
     step_pkgconfig()
 elseif(STEP STREQUAL "qmake")
     step_qmake()
+elseif(STEP STREQUAL "file_dialog")
+    step_file_dialog()
 elseif(STEP STREQUAL "device_package")
     step_device_package()
 elseif(STEP STREQUAL "device_plain")
