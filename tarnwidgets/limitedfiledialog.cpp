@@ -3,6 +3,8 @@
 
 #include "limitedfiledialog.h"
 
+#include "limitedfiledialog_p.h"
+
 #include <QAbstractItemModel>
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -15,18 +17,46 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QToolButton>
+#include <QUrl>
 
 namespace Tarn::Widgets {
 
 class LimitedFileDialogPrivate
 {
 public:
+    void updateGuard();
+    bool admits(bool fits, const QString &what);
+
+    QString requestedPath; // what was asked for, a folder or not
     QString limitedPath; // empty: no limit
     QString limitedPath1; // the second folder
     bool useLimitedPath1 = false;
+    std::unique_ptr<LimitGuard> guard; // only a strict dialog has one
 };
 
+void LimitedFileDialogPrivate::updateGuard()
+{
+    if (!guard)
+        return;
+    QStringList roots;
+    if (!limitedPath.isEmpty())
+        roots.append(limitedPath);
+    if (!limitedPath.isEmpty() && useLimitedPath1)
+        roots.append(limitedPath1);
+    guard->setRoots(roots);
+}
+
+// Passes on whether something fits; a strict dialog says so if not.
+bool LimitedFileDialogPrivate::admits(bool fits, const QString &what)
+{
+    if (!fits && guard)
+        guard->refuse(what);
+    return fits;
+}
+
 namespace {
+
+bool strictByDefault = false;
 
 void setChildEnabled(const QFileDialog *dialog, const QString &name, bool enabled)
 {
@@ -102,6 +132,7 @@ LimitedFileDialog::LimitedFileDialog(QWidget *parent, Qt::WindowFlags flags)
 {
     setOption(QFileDialog::DontUseNativeDialog, true);
     initFileDialog();
+    setStrict(strictByDefault);
 }
 
 LimitedFileDialog::LimitedFileDialog(QWidget *parent, const QString &caption, const QString &directory,
@@ -111,6 +142,7 @@ LimitedFileDialog::LimitedFileDialog(QWidget *parent, const QString &caption, co
 {
     setOption(QFileDialog::DontUseNativeDialog, true);
     initFileDialog();
+    setStrict(strictByDefault);
 }
 
 LimitedFileDialog::~LimitedFileDialog() = default;
@@ -143,11 +175,16 @@ void LimitedFileDialog::initFileDialog()
 
 void LimitedFileDialog::setLimitedPath(const QString &path)
 {
-    if (path == d->limitedPath)
-        return;
+    d->requestedPath = path;
+    if (path != d->limitedPath)
+        applyLimit(path);
+}
 
-    // Kept: a path that names no folder lifts the limit.
-    d->limitedPath = QFileInfo(path).isDir() ? path : QString();
+void LimitedFileDialog::applyLimit(const QString &path)
+{
+    // Kept: a path that names no folder lifts the limit, unless the dialog is strict.
+    d->limitedPath = isStrict() || QFileInfo(path).isDir() ? path : QString();
+    d->updateGuard();
     if (auto *edit = fileNameEdit(this)) {
         edit->setText(edit->text());
         edit->setContextMenuPolicy(Qt::NoContextMenu);
@@ -167,6 +204,7 @@ void LimitedFileDialog::setLimitedPath1(const QString &path)
         return;
     d->limitedPath1 = path;
     d->useLimitedPath1 = true;
+    d->updateGuard();
 }
 
 QString LimitedFileDialog::getLimitedPath() const
@@ -176,17 +214,29 @@ QString LimitedFileDialog::getLimitedPath() const
 
 bool LimitedFileDialog::pathFits(const QString &path) const
 {
+    if (d->guard)
+        return d->guard->contains(path);
     const QString candidate = withSlashes(path);
     if (d->limitedPath.isEmpty() || isBelow(candidate, d->limitedPath))
         return true;
     return d->useLimitedPath1 && (d->limitedPath1.isEmpty() || isBelow(candidate, d->limitedPath1));
 }
 
+bool LimitedFileDialog::mayGoUp() const
+{
+    return d->guard ? d->guard->mayGoUp() : pathFits(directory().absolutePath());
+}
+
+bool LimitedFileDialog::typedTextFits(const QString &text) const
+{
+    return pathFits(typedPath(this, text));
+}
+
 void LimitedFileDialog::checkGoToParent()
 {
-    const bool fits = pathFits(directory().absolutePath());
-    setChildEnabled(this, QStringLiteral("toParentButton"), fits);
-    setChildEnabled(this, QStringLiteral("backButton"), fits);
+    const bool enabled = mayGoUp();
+    setChildEnabled(this, QStringLiteral("toParentButton"), enabled);
+    setChildEnabled(this, QStringLiteral("backButton"), enabled);
 }
 
 void LimitedFileDialog::checkLineEdit(const QString &text)
@@ -195,7 +245,7 @@ void LimitedFileDialog::checkLineEdit(const QString &text)
     if (!box || box->buttons().isEmpty())
         return;
     // Only ever disabled: QFileDialog enables it when the text changes again.
-    if (!pathFits(typedPath(this, text)))
+    if (!typedTextFits(text))
         box->buttons().constFirst()->setEnabled(false);
 }
 
@@ -242,11 +292,64 @@ bool LimitedFileDialog::eventFilter(QObject *watched, QEvent *event)
     const int key = static_cast<QKeyEvent *>(event)->key();
     const QString name = watched->objectName();
     if (name == QLatin1String("listView") || name == QLatin1String("treeView"))
-        return key == Qt::Key_Backspace && !pathFits(directory().absolutePath());
-    if (key != Qt::Key_Return && key != Qt::Key_Enter)
-        return false;
+        return key == Qt::Key_Backspace && !d->admits(mayGoUp(), QStringLiteral(".."));
     const auto *edit = fileNameEdit(this);
-    return edit && !pathFits(typedPath(this, edit->text()));
+    const bool isReturn = key == Qt::Key_Return || key == Qt::Key_Enter;
+    return isReturn && edit && !d->admits(typedTextFits(edit->text()), edit->text());
+}
+
+bool LimitedFileDialog::isStrict() const
+{
+    return d->guard != nullptr;
+}
+
+void LimitedFileDialog::setStrict(bool strict)
+{
+    if (strict == isStrict())
+        return;
+    d->guard = strict ? std::make_unique<LimitGuard>(this) : nullptr;
+    // Whether the path that was asked for limits the dialog depends on the strictness.
+    if (!d->requestedPath.isEmpty())
+        applyLimit(d->requestedPath);
+}
+
+bool LimitedFileDialog::isStrictByDefault()
+{
+    return strictByDefault;
+}
+
+void LimitedFileDialog::setStrictByDefault(bool strict)
+{
+    strictByDefault = strict;
+}
+
+QStringList LimitedFileDialog::selectedFiles() const
+{
+    const QStringList files = QFileDialog::selectedFiles();
+    return d->guard ? d->guard->inside(files) : files;
+}
+
+QList<QUrl> LimitedFileDialog::selectedUrls() const
+{
+    if (!d->guard)
+        return QFileDialog::selectedUrls();
+    QList<QUrl> urls;
+    const QStringList files = selectedFiles();
+    for (const QString &file : files)
+        urls.append(QUrl::fromLocalFile(file));
+    return urls;
+}
+
+void LimitedFileDialog::accept()
+{
+    if (!d->guard || d->guard->admitsResult())
+        QFileDialog::accept();
+}
+
+void LimitedFileDialog::done(int result)
+{
+    if (result == QDialog::Rejected || !d->guard || d->guard->admitsResult())
+        QFileDialog::done(result);
 }
 
 QString LimitedFileDialog::getExistingDirectoryFromDlg(QWidget *parent, const QString &caption,

@@ -27,14 +27,19 @@ class LimitedFileDialogPrivate;
  * \endcode
  *
  * \note The confinement is a convenience for the user and not a security
- * border: there are ways around it, which the manual lists.
- * \note The limit compares texts: it knows nothing of symbolic links, a folder
- * itself does not count as inside, and its name also admits the folders whose
- * names begin with it.
+ * border: there are ways around it, which the manual lists. The property strict
+ * closes them.
+ * \note Unless strict, the limit compares texts: it knows nothing of symbolic
+ * links, a folder itself does not count as inside, and its name also admits the
+ * folders whose names begin with it.
+ *
+ * Style selectors: the object names of QFileDialog's parts, and limitNotice for
+ * the line in which a strict dialog tells what it has refused.
  */
 class TARNWIDGETS_EXPORT LimitedFileDialog : public QFileDialog
 {
     Q_OBJECT
+    Q_PROPERTY(bool strict READ isStrict WRITE setStrict)
 
 public:
     LimitedFileDialog(QWidget *parent, Qt::WindowFlags flags);
@@ -47,7 +52,8 @@ public:
 
     /*!
      * Keeps the user below the folder \a path. A path that is empty or names no
-     * folder lifts the limit. The dialog stays in the folder that it shows.
+     * folder lifts the limit. The dialog stays in the folder that it shows. See
+     * setStrict() for what a strict dialog does instead.
      */
     void setLimitedPath(const QString &path);
 
@@ -83,6 +89,27 @@ public:
     /*! The same as setHistoryPath(). */
     void checkHistory();
 
+    /*!
+     * Holds the limit against every way out: each folder that is entered and
+     * each result is checked with its links followed, and what is outside is
+     * left again, or refused, with a line in the dialog that says so. A folder
+     * counts as inside itself. A start folder outside gives way to the limited
+     * one, and a limited folder that is missing admits nothing; only an empty
+     * path lifts the limit. The default is isStrictByDefault().
+     *
+     * \note directoryEntered() may still name a folder that has been left already.
+     */
+    bool isStrict() const;
+    void setStrict(bool strict);
+
+    /*! What new dialogs take, those of the one-call functions included; false at first. */
+    static bool isStrictByDefault();
+    static void setStrictByDefault(bool strict);
+
+    /*! \note Hides QFileDialog::selectedFiles(): a strict dialog leaves out what is outside. */
+    QStringList selectedFiles() const;
+    QList<QUrl> selectedUrls() const; //!< \note Hides QFileDialog::selectedUrls() likewise.
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     /*!
@@ -114,7 +141,15 @@ public:
                                           QString *selectedFilter = nullptr,
                                           QFileDialog::Options options = QFileDialog::Options());
 
+protected:
+    void accept() override;
+    void done(int result) override;
+
 private:
+    bool mayGoUp() const;
+    bool typedTextFits(const QString &text) const;
+    void applyLimit(const QString &path);
+
     const std::unique_ptr<LimitedFileDialogPrivate> d;
 };
 

@@ -1,0 +1,374 @@
+// SPDX-FileCopyrightText: 2026 the tarnwidgets developers
+// SPDX-License-Identifier: MIT
+
+#include "limitedfiledialog_p.h"
+
+#include "limitedfiledialog.h"
+
+#include <QAbstractItemView>
+#include <QAbstractProxyModel>
+#include <QAccessible>
+#include <QDir>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QFileSystemModel>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QToolButton>
+#include <QUrl>
+#include <algorithm>
+
+namespace Tarn::Widgets {
+
+namespace {
+
+bool isWithin(const QString &path, const QString &root)
+{
+    if (path == root)
+        return true;
+    return path.startsWith(root.endsWith(QLatin1Char('/')) ? root : root + QLatin1Char('/'));
+}
+
+// Where the system goes for an absolute path: its links followed, names that do not exist yet put behind.
+// Empty if that cannot be told, as behind a dangling link.
+QString resolved(QString path)
+{
+    QStringList missing;
+    for (;;) {
+        const QFileInfo info(path);
+        const QString canonical = info.canonicalFilePath();
+        if (!canonical.isEmpty())
+            return QDir::cleanPath(canonical + QLatin1Char('/') + missing.join(QLatin1Char('/')));
+        const int slash = path.lastIndexOf(QLatin1Char('/'));
+        const QString name = path.mid(slash + 1);
+        if (slash < 0 || info.isSymLink() || name == QLatin1String(".."))
+            return QString();
+        if (!name.isEmpty())
+            missing.prepend(name);
+        path.truncate(qMax(slash, 1));
+    }
+}
+
+QList<QAbstractItemView *> fileViews(const QObject *dialog)
+{
+    QList<QAbstractItemView *> views;
+    for (const auto &name : {QStringLiteral("listView"), QStringLiteral("treeView")}) {
+        if (auto *view = dialog->findChild<QAbstractItemView *>(name))
+            views.append(view);
+    }
+    return views;
+}
+
+// Events by which a user acts on a view, or sees it.
+bool isUse(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::Paint:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::KeyPress:
+    case QEvent::ShortcutOverride:
+    case QEvent::ContextMenu:
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+LimitGuard::LimitGuard(LimitedFileDialog *dialog)
+    : m_dialog(dialog)
+    , m_model(dialog->findChild<QFileSystemModel *>())
+{
+    addNotice();
+    if (m_model)
+        connect(m_model, &QFileSystemModel::rootPathChanged, this, &LimitGuard::checkShownFolder);
+    connect(dialog, &QFileDialog::directoryEntered, this, &LimitGuard::settle);
+    connect(dialog, &QFileDialog::currentChanged, this, &LimitGuard::checkCurrent);
+    if (auto *edit = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))) {
+        connect(edit, &QLineEdit::textEdited, this, &LimitGuard::clearNotice);
+        connect(edit, &QLineEdit::textChanged, this, &LimitGuard::checkText);
+    }
+    if (auto *newFolder = dialog->findChild<QToolButton *>(QStringLiteral("newFolderButton")))
+        connect(newFolder, &QToolButton::pressed, this, &LimitGuard::settle);
+
+    dialog->installEventFilter(this);
+    for (auto *view : fileViews(dialog)) {
+        view->installEventFilter(this);
+        view->viewport()->installEventFilter(this);
+    }
+}
+
+LimitGuard::~LimitGuard()
+{
+    setShut(false);
+    delete m_notice;
+}
+
+void LimitGuard::setRoots(const QStringList &roots)
+{
+    m_roots.clear();
+    for (const QString &root : roots)
+        m_roots.append(QFileInfo(root).absoluteFilePath());
+    clearNotice();
+    settle();
+}
+
+bool LimitGuard::contains(const QString &path) const
+{
+    if (m_roots.isEmpty())
+        return true;
+    // Behind a null character, C functions see the end of the path.
+    if (path.isEmpty() || path.contains(QChar::Null))
+        return false;
+
+    const QLatin1Char slash('/');
+    // What does not begin with a slash may be more than a relative path: Qt has search paths and resources,
+    // too.
+    const QString absolute = path.startsWith(slash) ? path : QFileInfo(path).absoluteFilePath();
+    // Some programs clean a path before they open it, some do not. Behind a link ".." differs.
+    const QString opened = resolved(absolute);
+    const QString cleaned = resolved(QDir::cleanPath(absolute));
+    return std::any_of(m_roots.cbegin(), m_roots.cend(), [&](const QString &root) {
+        const QFileInfo info(root);
+        return info.isDir() && isWithin(opened, info.canonicalFilePath())
+            && isWithin(cleaned, info.canonicalFilePath());
+    });
+}
+
+QStringList LimitGuard::inside(const QStringList &paths) const
+{
+    QStringList kept;
+    std::copy_if(paths.cbegin(), paths.cend(), std::back_inserter(kept),
+                 [this](const QString &path) { return contains(path); });
+    return kept;
+}
+
+bool LimitGuard::mayGoUp() const
+{
+    return contains(QDir::cleanPath(shownFolder() + QStringLiteral("/..")));
+}
+
+bool LimitGuard::admitsResult()
+{
+    settle();
+    // The folder counts too: it is the result of those who choose a folder.
+    const QStringList results = QStringList(shownFolder()) + m_dialog->QFileDialog::selectedFiles();
+    const auto outside = std::find_if_not(results.cbegin(), results.cend(),
+                                          [this](const QString &path) { return contains(path); });
+    if (outside == results.cend())
+        return true;
+    refuse(*outside);
+    return false;
+}
+
+void LimitGuard::refuse(const QString &path)
+{
+    m_refused = path;
+    updateNotice();
+}
+
+bool LimitGuard::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_dialog) {
+        if (event->type() == QEvent::LanguageChange)
+            updateNotice();
+        return false;
+    }
+    if (!isUse(event->type()))
+        return false;
+    auto *view = qobject_cast<QAbstractItemView *>(watched);
+    if (!view)
+        view = qobject_cast<QAbstractItemView *>(watched->parent());
+    return view && filterViewEvent(view, event);
+}
+
+// The path that the model shows; empty for the list of all drives.
+QString LimitGuard::shownFolder() const
+{
+    return m_model && m_model->rootPath().isEmpty() ? QString() : m_dialog->directory().absolutePath();
+}
+
+bool LimitGuard::isShownPermitted() const
+{
+    const QString shown = shownFolder();
+    return m_roots.isEmpty() || (QFileInfo(shown).isDir() && contains(shown));
+}
+
+void LimitGuard::checkShownFolder()
+{
+    if (isShownPermitted()) {
+        m_lastInside = shownFolder();
+        clearNotice();
+    } else {
+        const QString shown = shownFolder();
+        goBackInside();
+        refuse(shown);
+        // QFileDialog is about to show the folder in its views, which the model has left already.
+        QMetaObject::invokeMethod(this, &LimitGuard::settle, Qt::QueuedConnection);
+    }
+    m_dialog->checkGoToParent();
+}
+
+void LimitGuard::checkText(const QString &text)
+{
+    if (!text.isEmpty() && !contains(m_dialog->directory().absoluteFilePath(text)))
+        refuse(text);
+}
+
+void LimitGuard::checkCurrent(const QString &path)
+{
+    if (path.isEmpty())
+        return;
+    if (contains(path))
+        clearNotice();
+    else
+        refuse(path);
+}
+
+void LimitGuard::goBackInside()
+{
+    const QStringList folders = QStringList(m_lastInside) + m_roots;
+    for (const QString &folder : folders) {
+        if (QFileInfo(folder).isDir() && contains(folder)) {
+            m_dialog->setDirectory(folder);
+            return;
+        }
+    }
+}
+
+// Makes the dialog show a permitted folder, and its views the same one as its model.
+void LimitGuard::settle()
+{
+    if (!isShownPermitted())
+        goBackInside();
+    setShut(!isShownPermitted());
+    if (m_roots.isEmpty() || m_shut)
+        return;
+    m_lastInside = shownFolder();
+    for (auto *view : fileViews(m_dialog))
+        settleView(view);
+}
+
+void LimitGuard::settleView(QAbstractItemView *view) const
+{
+    if (!m_model)
+        return;
+    QModelIndex shown = m_model->index(m_model->rootPath());
+    if (const auto *proxy = qobject_cast<const QAbstractProxyModel *>(view->model()))
+        shown = proxy->mapFromSource(shown);
+    if (view->rootIndex() != shown)
+        view->setRootIndex(shown);
+}
+
+// Typing the path of a file selects it, wherever it is, and the views would rename and delete it.
+void LimitGuard::dropForeignSelection(const QAbstractItemView *view) const
+{
+    auto *selection = view->selectionModel();
+    if (m_roots.isEmpty() || !selection)
+        return;
+    const QModelIndexList indexes = QModelIndexList(selection->selectedIndexes())
+        << selection->currentIndex();
+    const bool foreign = std::any_of(indexes.cbegin(), indexes.cend(), [view](const QModelIndex &index) {
+        return index.isValid() && index.parent() != view->rootIndex();
+    });
+    if (foreign)
+        selection->clear();
+}
+
+// Without a permitted folder there is nothing to show, and nowhere to make one.
+void LimitGuard::setShut(bool shut)
+{
+    if (shut == m_shut)
+        return;
+    m_shut = shut;
+    if (auto *views = m_dialog->findChild<QWidget *>(QStringLiteral("stackedWidget")))
+        views->setVisible(!shut);
+    if (auto *newFolder = m_dialog->findChild<QWidget *>(QStringLiteral("newFolderButton")))
+        newFolder->setEnabled(!shut);
+    if (shut)
+        refuse(shownFolder());
+    else
+        clearNotice();
+}
+
+bool LimitGuard::isDropPermitted(const QAbstractItemView *view, const QDropEvent *drop) const
+{
+    const QModelIndex target = view->indexAt(drop->pos());
+    if (target.isValid() && !contains(target.data(QFileSystemModel::FilePathRole).toString()))
+        return false;
+    // What is dropped may be moved: it must not come from outside either.
+    const QList<QUrl> urls = drop->mimeData()->urls();
+    return std::all_of(urls.cbegin(), urls.cend(), [this](const QUrl &url) {
+        return m_roots.isEmpty() || (url.isLocalFile() && contains(url.toLocalFile()));
+    });
+}
+
+// True if the view must not see the event.
+bool LimitGuard::filterViewEvent(QAbstractItemView *view, QEvent *event)
+{
+    settle();
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::ShortcutOverride:
+    case QEvent::ContextMenu:
+        dropForeignSelection(view);
+        return false;
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+        break;
+    default:
+        return false;
+    }
+
+    if (isDropPermitted(view, static_cast<QDropEvent *>(event)))
+        return false;
+    event->ignore();
+    if (event->type() == QEvent::Drop)
+        refuse(static_cast<QDropEvent *>(event)->mimeData()->text());
+    return true;
+}
+
+void LimitGuard::addNotice()
+{
+    auto *layout = qobject_cast<QGridLayout *>(m_dialog->layout());
+    if (!layout)
+        return;
+    m_notice = new QLabel(m_dialog);
+    m_notice->setObjectName(QStringLiteral("limitNotice"));
+    m_notice->setTextFormat(Qt::PlainText);
+    // A long text must not make the dialog wider.
+    m_notice->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_notice->hide();
+    layout->addWidget(m_notice, layout->rowCount(), 0, 1, -1);
+}
+
+void LimitGuard::updateNotice()
+{
+    if (!m_notice || m_refused.isNull())
+        return;
+    const QString path = m_notice->fontMetrics().elidedText(QDir::toNativeSeparators(m_refused).simplified(),
+                                                            Qt::ElideMiddle, m_dialog->width() / 2);
+    m_notice->setText(m_shut ? LimitedFileDialog::tr("The permitted folder is missing.")
+                             : LimitedFileDialog::tr("Outside the permitted folder: %1").arg(path));
+    m_notice->show();
+    QAccessibleEvent alert(m_notice, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void LimitGuard::clearNotice()
+{
+    if (!m_notice || m_shut)
+        return;
+    m_refused.clear();
+    m_notice->hide();
+}
+
+} // namespace Tarn::Widgets
