@@ -155,17 +155,28 @@ bool LimitGuard::mayGoUp() const
     return contains(QDir::cleanPath(shownFolder() + QStringLiteral("/..")));
 }
 
+std::optional<QString> LimitGuard::firstOutside(const QStringList &paths) const
+{
+    const auto outside = std::find_if_not(paths.cbegin(), paths.cend(),
+                                          [this](const QString &path) { return contains(path); });
+    return outside == paths.cend() ? std::nullopt : std::make_optional(*outside);
+}
+
 bool LimitGuard::admitsResult()
 {
+    const bool folderStands = isShownPermitted();
+    const QString shown = shownFolder();
     settle();
+    // What was typed was meant for the folder that was shown.
+    if (!folderStands) {
+        refuse(shown);
+        return false;
+    }
     // The folder counts too: it is the result of those who choose a folder.
-    const QStringList results = QStringList(shownFolder()) + m_dialog->QFileDialog::selectedFiles();
-    const auto outside = std::find_if_not(results.cbegin(), results.cend(),
-                                          [this](const QString &path) { return contains(path); });
-    if (outside == results.cend())
-        return true;
-    refuse(*outside);
-    return false;
+    const auto outside = firstOutside(QStringList(shown) + m_dialog->QFileDialog::selectedFiles());
+    if (outside)
+        refuse(*outside);
+    return !outside;
 }
 
 void LimitGuard::refuse(const QString &path)
@@ -189,10 +200,10 @@ bool LimitGuard::eventFilter(QObject *watched, QEvent *event)
     return view && filterViewEvent(view, event);
 }
 
-// The path that the model shows; empty for the list of all drives.
+// QFileDialog::directory() is the program's own folder while the list of all drives is shown.
 QString LimitGuard::shownFolder() const
 {
-    return m_model && m_model->rootPath().isEmpty() ? QString() : m_dialog->directory().absolutePath();
+    return m_model && m_model->rootPath().isEmpty() ? QDir::rootPath() : m_dialog->directory().absolutePath();
 }
 
 bool LimitGuard::isShownPermitted() const
@@ -205,6 +216,7 @@ void LimitGuard::checkShownFolder()
 {
     if (isShownPermitted()) {
         m_lastInside = shownFolder();
+        setShut(false);
         clearNotice();
     } else {
         const QString shown = shownFolder();
@@ -298,16 +310,18 @@ void LimitGuard::setShut(bool shut)
         clearNotice();
 }
 
-bool LimitGuard::isDropPermitted(const QAbstractItemView *view, const QDropEvent *drop) const
+// The first path outside that the drop has to do with.
+std::optional<QString> LimitGuard::foreignPath(const QAbstractItemView *view, const QDropEvent *drop) const
 {
+    QStringList paths;
     const QModelIndex target = view->indexAt(drop->pos());
-    if (target.isValid() && !contains(target.data(QFileSystemModel::FilePathRole).toString()))
-        return false;
+    if (target.isValid())
+        paths.append(target.data(QFileSystemModel::FilePathRole).toString());
     // What is dropped may be moved: it must not come from outside either.
     const QList<QUrl> urls = drop->mimeData()->urls();
-    return std::all_of(urls.cbegin(), urls.cend(), [this](const QUrl &url) {
-        return m_roots.isEmpty() || (url.isLocalFile() && contains(url.toLocalFile()));
-    });
+    for (const QUrl &url : urls)
+        paths.append(url.isLocalFile() ? url.toLocalFile() : url.toDisplayString());
+    return firstOutside(paths);
 }
 
 // True if the view must not see the event.
@@ -328,11 +342,11 @@ bool LimitGuard::filterViewEvent(QAbstractItemView *view, QEvent *event)
         return false;
     }
 
-    if (isDropPermitted(view, static_cast<QDropEvent *>(event)))
+    const auto foreign = foreignPath(view, static_cast<QDropEvent *>(event));
+    if (!foreign)
         return false;
     event->ignore();
-    if (event->type() == QEvent::Drop)
-        refuse(static_cast<QDropEvent *>(event)->mimeData()->text());
+    refuse(*foreign);
     return true;
 }
 

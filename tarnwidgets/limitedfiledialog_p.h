@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
+#include <optional>
 
 class QAbstractItemView;
 class QDropEvent;
@@ -66,7 +67,8 @@ private:
     void settleView(QAbstractItemView *view) const;
     void dropForeignSelection(const QAbstractItemView *view) const;
     void setShut(bool shut);
-    bool isDropPermitted(const QAbstractItemView *view, const QDropEvent *drop) const;
+    std::optional<QString> foreignPath(const QAbstractItemView *view, const QDropEvent *drop) const;
+    std::optional<QString> firstOutside(const QStringList &paths) const;
     bool filterViewEvent(QAbstractItemView *view, QEvent *event);
     void addNotice();
     void updateNotice();
