@@ -230,6 +230,8 @@ void LimitGuard::checkShownFolder()
 
 void LimitGuard::checkText(const QString &text)
 {
+    for (auto *view : fileViews(m_dialog))
+        dropForeignSelection(view);
     if (!text.isEmpty() && !contains(m_dialog->directory().absoluteFilePath(text)))
         refuse(text);
 }
