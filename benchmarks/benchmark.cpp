@@ -15,9 +15,6 @@ namespace Tarn::Benchmark {
 
 namespace {
 
-// By then fonts are loaded, caches filled and lists as long as they get.
-constexpr int WarmUpSteps = 20;
-
 /*
  * Leaves a dump of callgrind's, called after scenario and side, with the instructions of the steps. Returns
  * the allocations of one.
@@ -26,7 +23,7 @@ double count(const Scenario &scenario, const char *sideName, const MakeSide &mak
 {
     const QByteArray dump = QByteArray(scenario.name) + ' ' + sideName;
     const std::unique_ptr<Side> side = makeSide();
-    for (int i = 0; i < WarmUpSteps; ++i) {
+    for (int i = 0; i < scenario.warmUpSteps; ++i) {
         side->prepare();
         side->step();
     }

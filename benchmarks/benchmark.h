@@ -47,6 +47,7 @@ struct Scenario
     MakeSide empty = nullptr; //!< If set, what its step costs is taken off both.
     bool mayAllocateMore = false; //!< Whether our step may ask for heap memory more often than Qt's.
     int steps = 200;
+    int warmUpSteps = 20; //!< By then fonts are loaded, caches filled and lists as long as they get.
 };
 
 /*! All that main() of a benchmark has to do. */

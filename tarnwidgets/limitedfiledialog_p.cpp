@@ -190,6 +190,8 @@ bool LimitGuard::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_dialog) {
         if (event->type() == QEvent::LanguageChange)
             updateNotice();
+        else if (event->type() == QEvent::ShortcutOverride)
+            dropForeignSelections();
         return false;
     }
     if (!isUse(event->type()))
@@ -230,8 +232,6 @@ void LimitGuard::checkShownFolder()
 
 void LimitGuard::checkText(const QString &text)
 {
-    for (auto *view : fileViews(m_dialog))
-        dropForeignSelection(view);
     if (!text.isEmpty() && !contains(m_dialog->directory().absoluteFilePath(text)))
         refuse(text);
 }
@@ -282,6 +282,12 @@ void LimitGuard::settleView(QAbstractItemView *view) const
 }
 
 // Typing the path of a file selects it, wherever it is, and the views would rename and delete it.
+void LimitGuard::dropForeignSelections() const
+{
+    for (const auto *view : fileViews(m_dialog))
+        dropForeignSelection(view);
+}
+
 void LimitGuard::dropForeignSelection(const QAbstractItemView *view) const
 {
     auto *selection = view->selectionModel();

@@ -65,6 +65,7 @@ private:
     void goBackInside();
     void settle();
     void settleView(QAbstractItemView *view) const;
+    void dropForeignSelections() const;
     void dropForeignSelection(const QAbstractItemView *view) const;
     void setShut(bool shut);
     std::optional<QString> foreignPath(const QAbstractItemView *view, const QDropEvent *drop) const;
