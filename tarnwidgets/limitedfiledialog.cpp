@@ -12,6 +12,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
+#include <QFileSystemModel>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
@@ -99,6 +100,14 @@ QString alignedWith(const QString &root, const QString &path)
     return path;
 }
 
+// QFileSystemModel is slow to find that each name matches "*", which it need not be told.
+void matchNoNames(const QFileDialog *dialog)
+{
+    auto *model = dialog->findChild<QFileSystemModel *>();
+    if (model && model->nameFilters() == QStringList(QStringLiteral("*")))
+        model->setNameFilters({});
+}
+
 // Deletes the dialog on return, unless its parent has taken it along while it was open.
 template <typename Result> QString runModally(QPointer<LimitedFileDialog> dialog, Result result)
 {
@@ -132,6 +141,7 @@ LimitedFileDialog::LimitedFileDialog(QWidget *parent, Qt::WindowFlags flags)
 {
     setOption(QFileDialog::DontUseNativeDialog, true);
     initFileDialog();
+    matchNoNames(this);
     setStrict(strictByDefault);
 }
 
@@ -142,6 +152,7 @@ LimitedFileDialog::LimitedFileDialog(QWidget *parent, const QString &caption, co
 {
     setOption(QFileDialog::DontUseNativeDialog, true);
     initFileDialog();
+    matchNoNames(this);
     setStrict(strictByDefault);
 }
 
