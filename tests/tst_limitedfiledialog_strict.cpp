@@ -325,6 +325,8 @@ private Q_SLOTS:
     void oneCallFunctionsHonourTheDefault();
     void noticeIsOneLineThatGoesWhenTypedOn();
     void addsNothingUnlessStrict();
+    void listsWhatQFileDialogLists_data();
+    void listsWhatQFileDialogLists();
     void staysInsideWhateverTheUserDoes();
 
 private:
@@ -1000,6 +1002,59 @@ void tst_LimitedFileDialogStrict::addsNothingUnlessStrict()
     QVERIFY(partsOf(dialog) != partsOf(plain));
     dialog.setStrict(false);
     QCOMPARE(partsOf(dialog), partsOf(plain));
+}
+
+void tst_LimitedFileDialogStrict::listsWhatQFileDialogLists_data()
+{
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<int>("mode");
+
+    for (const char *filter : {"", "All Files (*)", "Texts (*.txt)", "Texts (*.txt);;All (*)"}) {
+        QTest::newRow(qPrintable(QLatin1Char('"') + QLatin1String(filter) + QLatin1Char('"')))
+            << QString::fromLatin1(filter) << int(QFileDialog::AnyFile);
+        QTest::newRow(
+            qPrintable(QLatin1Char('"') + QLatin1String(filter) + QStringLiteral("\", folders only")))
+            << QString::fromLatin1(filter) << int(QFileDialog::Directory);
+    }
+}
+
+// The names in the folder that is shown, once they are all there.
+static QStringList listed(const QFileDialog &dialog)
+{
+    const auto *model = dialog.findChild<QFileSystemModel *>();
+    const QModelIndex folder = model->index(model->rootPath());
+    QStringList names;
+    for (int row = 0; row < model->rowCount(folder); ++row)
+        names += model->index(row, 0, folder).data(QFileSystemModel::FileNameRole).toString();
+    names.sort();
+    return names;
+}
+
+void tst_LimitedFileDialogStrict::listsWhatQFileDialogLists()
+{
+    QFETCH(QString, filter);
+    QFETCH(int, mode);
+    const Tree tree;
+    for (const char *name :
+         {"root/*", "root/.hidden", "root/line\nbreak", "root/\xc3\xa9t\xc3\xa9", "root/noending"})
+        QVERIFY(QFile(tree.path() + QLatin1Char('/') + QString::fromUtf8(name)).open(QIODevice::WriteOnly));
+
+    QFileDialog plain(nullptr, QString(), tree.at("root"), filter);
+    plain.setOption(QFileDialog::DontUseNativeDialog);
+    LimitedFileDialog dialog(nullptr, QString(), tree.at("root"), filter);
+    dialog.setLimitedPath(tree.at("root"));
+    plain.setFileMode(QFileDialog::FileMode(mode));
+    dialog.setFileMode(QFileDialog::FileMode(mode));
+
+    QTRY_VERIFY(listed(plain).contains(QStringLiteral("sub"))
+                && listed(dialog).contains(QStringLiteral("sub")));
+    QTRY_COMPARE(listed(dialog), listed(plain));
+    QCOMPARE(dialog.nameFilters(), plain.nameFilters());
+    QCOMPARE(dialog.selectedNameFilter(), plain.selectedNameFilter());
+
+    plain.selectNameFilter(plain.nameFilters().constLast());
+    dialog.selectNameFilter(plain.nameFilters().constLast());
+    QTRY_COMPARE(listed(dialog), listed(plain));
 }
 
 namespace {
