@@ -38,6 +38,8 @@ using Buttons = QMessageBox::StandardButtons;
 using Role = QMessageBox::ButtonRole;
 
 constexpr int Untouched = -99;
+// Of no meaning, but with a bit of the enumeration's: to pass on any other is undefined behaviour.
+constexpr Button UnknownButton = Button(1);
 
 /* What a click, a key or a closing ended a box with, and how often. */
 struct Outcome
@@ -626,7 +628,7 @@ void tst_FramelessMessageBox::retranslatingAnAbsentOrUnknownButtonDoesNothing()
     yes->setText(QStringLiteral("changed"));
     box.retranslateButtonUi(QMessageBox::No);
     box.retranslateButtonUi(QMessageBox::NoButton);
-    box.retranslateButtonUi(Button(0x10000000));
+    box.retranslateButtonUi(UnknownButton);
     QCOMPARE(yes->text(), QStringLiteral("changed"));
     QCOMPARE(box.buttons().size(), 1);
 }
@@ -636,7 +638,7 @@ void tst_FramelessMessageBox::unknownStandardButtonGivesNull()
     FramelessMessageBox box;
     m_guard->sentry().expect(QtWarningMsg, QStringLiteral("Invalid ButtonRole"));
     QVERIFY(!box.addButton(QMessageBox::NoButton));
-    QVERIFY(!box.addButton(Button(0x10000000)));
+    QVERIFY(!box.addButton(UnknownButton));
     QVERIFY(box.buttons().isEmpty());
     QCOMPARE(box.standardButtons(), Buttons(QMessageBox::NoButton));
     QVERIFY(buttonBoxOf(box)->findChildren<QPushButton *>().isEmpty());
@@ -703,7 +705,7 @@ void tst_FramelessMessageBox::buttonAddedTwiceIsListedOnce()
 void tst_FramelessMessageBox::buttonOfUnknownRoleIsOwnedAllTheSame_data()
 {
     QTest::addColumn<int>("role");
-    QTest::newRow("unknown") << 4711;
+    QTest::newRow("unknown") << 12;
     QTest::newRow("invalid") << int(QMessageBox::InvalidRole);
 }
 
@@ -732,7 +734,7 @@ void tst_FramelessMessageBox::refusedButtonDoesNotReplaceTheAutomaticOk()
 {
     m_guard->sentry().expect(QtWarningMsg, QStringLiteral("Invalid ButtonRole"));
     FramelessMessageBox box;
-    box.addButton(QStringLiteral("odd"), Role(4711));
+    box.addButton(QStringLiteral("odd"), Role(12));
     show(box);
     QCOMPARE(box.standardButtons(), Buttons(QMessageBox::Ok));
     QVERIFY(box.close());
@@ -1546,9 +1548,9 @@ void tst_FramelessMessageBox::unknownIconShowsNone()
 {
     FramelessMessageBox box;
     box.setIcon(QMessageBox::Warning);
-    box.setIcon(QMessageBox::Icon(4711));
+    box.setIcon(QMessageBox::Icon(7));
     QVERIFY(box.iconPixmap().isNull());
-    QCOMPARE(int(box.icon()), 4711);
+    QCOMPARE(int(box.icon()), 7);
 }
 
 QTEST_MAIN(tst_FramelessMessageBox)
