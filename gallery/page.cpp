@@ -5,6 +5,7 @@
 
 #include "controlspage.h"
 #include "dialogspage.h"
+#include "filedialogspage.h"
 #include "messageboxpage.h"
 #include "separatorspage.h"
 #include "stylesheetpage.h"
@@ -14,7 +15,7 @@ namespace Gallery {
 
 QVector<Page> pages()
 {
-    return {TitleBarPage::page(),   DialogsPage::page(),  MessageBoxPage::page(),
+    return {TitleBarPage::page(),   DialogsPage::page(),  MessageBoxPage::page(), FileDialogsPage::page(),
             SeparatorsPage::page(), ControlsPage::page(), StyleSheetPage::page()};
 }
 

@@ -22,6 +22,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
+#include <QTreeWidget>
 #include <appearance.h>
 #include <mainwindow.h>
 #include <optional>
@@ -31,6 +32,7 @@
 #include <tarnwidgets/framelessdialog.h>
 #include <tarnwidgets/framelesshelper.h>
 #include <tarnwidgets/framelessmessagebox.h>
+#include <tarnwidgets/limitedfiledialog.h>
 #include <tarnwidgets/titlebar.h>
 #include <titlebarpage.h>
 #include <unistd.h>
@@ -40,6 +42,7 @@ using Tarn::Test::ModalDriver;
 using Tarn::Widgets::FramelessDialog;
 using Tarn::Widgets::FramelessHelper;
 using Tarn::Widgets::FramelessMessageBox;
+using Tarn::Widgets::LimitedFileDialog;
 using Tarn::Widgets::TitleBar;
 
 namespace {
@@ -152,6 +155,9 @@ private Q_SLOTS:
     void messageBoxTellsItsResult_data();
     void messageBoxTellsItsResult();
     void messageBoxCallLeavesOutTheCloseButton();
+    void strictFileDialogHoldsWhatThePlainOneLetsOut();
+    void fileDialogReturnsWhatIsChosen_data();
+    void fileDialogReturnsWhatIsChosen();
 
     void chosenWidthReachesAllLines();
 
@@ -515,6 +521,61 @@ void tst_GalleryPages::messageBoxCallLeavesOutTheCloseButton()
     });
     stage.click(QStringLiteral("Open"));
     QVERIFY(driver.ran());
+}
+
+void tst_GalleryPages::strictFileDialogHoldsWhatThePlainOneLetsOut()
+{
+    const Stage stage(QStringLiteral("file-dialogs"));
+    auto *list = stage.page->findChild<QTreeWidget *>();
+    QStringList lettingOut;
+    QVERIFY(list->topLevelItemCount() > 5);
+    for (int row = 0; row < list->topLevelItemCount(); ++row) {
+        const QTreeWidgetItem *item = list->topLevelItem(row);
+        QCOMPARE(item->text(2), QStringLiteral("held"));
+        if (item->text(1) == QLatin1String("gets out"))
+            lettingOut.append(item->text(0));
+    }
+    QVERIFY(lettingOut.contains(QStringLiteral("Symbolic link")));
+    QVERIFY(!lettingOut.contains(QStringLiteral("Parent button")));
+}
+
+void tst_GalleryPages::fileDialogReturnsWhatIsChosen_data()
+{
+    QTest::addColumn<QString>("call");
+    QTest::addColumn<bool>("strict");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("result");
+    QTest::newRow("open") << QStringLiteral("Open a file") << false << QStringLiteral("salt.rcp")
+                          << QStringLiteral("Chosen: recipes/salt.rcp");
+    QTest::newRow("save") << QStringLiteral("Save a file") << false << QStringLiteral("new.rcp")
+                          << QStringLiteral("Chosen: recipes/new.rcp");
+    QTest::newRow("a link") << QStringLiteral("Open a file") << false << QStringLiteral("link/keys.txt")
+                            << QStringLiteral("Chosen: recipes/link/keys.txt");
+    QTest::newRow("a link, strictly") << QStringLiteral("Open a file") << true
+                                      << QStringLiteral("link/keys.txt") << QStringLiteral("Cancelled");
+}
+
+void tst_GalleryPages::fileDialogReturnsWhatIsChosen()
+{
+    QFETCH(QString, call);
+    QFETCH(bool, strict);
+    QFETCH(QString, text);
+    QFETCH(QString, result);
+
+    const Stage stage(QStringLiteral("file-dialogs"));
+    stage.page->findChild<QComboBox *>()->setCurrentText(call);
+    stage.setSwitch(QStringLiteral("Strict"), strict);
+    ModalDriver driver([&](QWidget *dialog) {
+        QCOMPARE(qobject_cast<LimitedFileDialog *>(dialog)->isStrict(), strict);
+        dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(text);
+        dialog->findChild<QDialogButtonBox *>()->buttons().first()->click();
+        if (dialog->isVisible())
+            dialog->close();
+    });
+    stage.click(QStringLiteral("Open"));
+    QVERIFY(driver.ran());
+    QVERIFY(findByText<QLabel>(stage.page.get(), result));
+    QVERIFY(!LimitedFileDialog::isStrictByDefault());
 }
 
 void tst_GalleryPages::chosenWidthReachesAllLines()
