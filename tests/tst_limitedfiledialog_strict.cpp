@@ -303,6 +303,8 @@ private Q_SLOTS:
     void refusesEveryWayOut();
     void makesFoldersInsideOnly();
     void endsADropInsideOnly();
+    void deletesLinksButNotWhatTheyLeadTo_data();
+    void deletesLinksButNotWhatTheyLeadTo();
     void startsInTheRoot();
     void startsInTheRootAfterTheLimitIsMadeStrict();
     void staysInAStartFolderInside();
@@ -572,6 +574,31 @@ void tst_LimitedFileDialogStrict::endsADropInsideOnly()
 
     QVERIFY(QFileInfo::exists(scene.tree.at("root/sub/with space.txt")));
     QVERIFY(!scene.notice()->isVisible());
+}
+
+void tst_LimitedFileDialogStrict::deletesLinksButNotWhatTheyLeadTo_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("a link to a folder") << "linkdir";
+    QTest::newRow("a link to a file") << "linkfile";
+    QTest::newRow("a folder with links in it") << "sub";
+}
+
+void tst_LimitedFileDialogStrict::deletesLinksButNotWhatTheyLeadTo()
+{
+    QFETCH(QString, name);
+    const Answerer answerer;
+    Scene scene(true);
+    QVERIFY(QFile::link(scene.tree.at("outside"), scene.tree.at("root/sub/deep/linkdir")));
+    QVERIFY(QFile::link(scene.tree.at("outside/secret.txt"), scene.tree.at("root/sub/deep/linkfile")));
+
+    scene.click(qPrintable(name));
+    QTest::keyClick(scene.list(), Qt::Key_Delete);
+
+    const QFileInfo deleted(scene.tree.at("root/") + name);
+    QVERIFY(!deleted.exists() && !deleted.isSymLink());
+    QVERIFY(scene.isOutsideUntouched());
+    QVERIFY(QFileInfo::exists(scene.tree.at("outside/dir/secret.txt")));
 }
 
 void tst_LimitedFileDialogStrict::startsInTheRoot()
