@@ -7,18 +7,10 @@
 #include "support/confined.h"
 #include "support/functionguard.h"
 
-#include <QAbstractItemView>
-#include <QComboBox>
-#include <QDialogButtonBox>
 #include <QKeyEvent>
-#include <QLineEdit>
-#include <QListView>
-#include <QMetaMethod>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
-#include <QToolButton>
-#include <QTreeView>
+#include <memory>
 #include <optional>
 
 using namespace Tarn::Test;

@@ -4,19 +4,11 @@
 #include "filedialogparts.h"
 
 #include <QAbstractItemModel>
-#include <QComboBox>
 #include <QCompleter>
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QListView>
-#include <QPushButton>
 #include <QSettings>
 #include <QTest>
-#include <QToolButton>
-#include <QTreeView>
 
 namespace Tarn::Test {
 

@@ -4,20 +4,18 @@
 #ifndef TARN_TEST_FILEDIALOGPARTS_H
 #define TARN_TEST_FILEDIALOGPARTS_H
 
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
-
-class QAbstractItemView;
-class QComboBox;
-class QDialogButtonBox;
-class QFileDialog;
-class QLineEdit;
-class QListView;
-class QPushButton;
-class QToolButton;
-class QTreeView;
-class QWidget;
+#include <QToolButton>
+#include <QTreeView>
 
 namespace Tarn::Test {
 
