@@ -219,12 +219,11 @@ void tst_LimitedFileDialogX11::typedTextOutsideIsRefused()
     QVERIFY(!parts.accepting()->isEnabled());
     QVERIFY(m_desktop->input.key(XK_Return)); // into the completions, if there are any
     QVERIFY(m_desktop->input.key(XK_KP_Enter));
-    QVERIFY(m_desktop->input.key(XK_Escape));
-    if (finished.isEmpty()) { // Escape has closed the completions
-        QVERIFY(m_desktop->input.key(XK_Return));
-        QVERIFY(click(parts.accepting()));
-    }
-    QVERIFY(!finished.contains({int(QDialog::Accepted)}));
+    parts.completions()->hide();
+    QVERIFY(m_desktop->input.key(XK_Return));
+    QVERIFY(m_desktop->input.key(XK_KP_Enter));
+    QVERIFY(click(parts.accepting()));
+    QCOMPARE(finished.count(), 0);
     QCOMPARE(parts.shown(), m_tree->root());
 }
 
