@@ -234,7 +234,7 @@ void tst_LimitedFileDialogGetters::limitIsInForce()
         QVERIFY(!parts.toParent->isEnabled());
         QVERIFY(!parts.back->isEnabled());
         QCOMPARE(dialog->history(), QStringList(m_tree->root()));
-        parts.edit->setText(m_tree->at(QStringLiteral("@/outside")));
+        parts.edit->setText(m_tree->at(QStringLiteral("@/outside/none")));
         QVERIFY(!parts.accepting()->isEnabled());
         QTest::keyClick(parts.edit, Qt::Key_Return);
         QVERIFY(dialog->isVisible());
@@ -357,9 +357,16 @@ void tst_LimitedFileDialogGetters::widgetsAreUsedWhateverTheOptions_data()
     addGetterRows();
 }
 
+// Says something where the platform theme has dialogs of its own, as in the run that asks for such a theme.
 void tst_LimitedFileDialogGetters::widgetsAreUsedWhateverTheOptions()
 {
     QFETCH(Getter, getter);
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORMTHEME")) {
+        QFileDialog plain(nullptr, QString(), m_tree->root());
+        plain.show();
+        if (FileDialogParts(&plain).areThere())
+            QSKIP("This platform theme has no file dialogs here");
+    }
     Call call;
     call.getter = getter;
     call.options = QFileDialog::Options();

@@ -98,6 +98,7 @@ private Q_SLOTS:
     void modesEnableTheButton_data();
     void modesEnableTheButton();
     void acceptIsNotChecked();
+    void textPutInWithoutFocusIsCutToTheBareName();
     void entryOfTwoDotsLeadsUp();
 
 private:
@@ -487,6 +488,27 @@ void tst_LimitedFileDialogWaysOut::acceptIsNotChecked()
     QVERIFY(!confined.parts.accepting()->isEnabled());
     QMetaObject::invokeMethod(&confined.dialog, "accept");
     QCOMPARE(accepted(confined), m_secret);
+}
+
+// Kept: QFileDialog selects what a text names and, while the focus is elsewhere, puts the bare name in its
+// place.
+void tst_LimitedFileDialogWaysOut::textPutInWithoutFocusIsCutToTheBareName()
+{
+    Confined confined(*m_tree);
+    const FileDialogParts &parts = confined.parts;
+    confined.dialog.setFileMode(QFileDialog::Directory);
+    QVERIFY(confined.show());
+    parts.list->setFocus();
+    QVERIFY(!parts.edit->hasFocus());
+    QTRY_VERIFY([&] { // once its model knows the folder
+        parts.edit->clear();
+        parts.list->clearSelection();
+        parts.edit->setText(m_tree->outside());
+        return parts.edit->text() == QStringLiteral("outside");
+    }());
+    QVERIFY(!parts.accepting()->isEnabled());
+    QTest::keyClick(parts.edit, Qt::Key_Return);
+    QCOMPARE(accepted(confined), m_tree->outside());
 }
 
 // Kept: a filter that shows the entries of dots shows a way up.
