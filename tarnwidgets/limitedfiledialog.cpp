@@ -112,7 +112,7 @@ void matchNoNames(const QFileDialog *dialog)
 template <typename Result> QString runModally(QPointer<LimitedFileDialog> dialog, Result result)
 {
     const bool accepted = dialog->exec() == QDialog::Accepted;
-    const QString chosen = accepted && dialog ? result(*dialog) : QString();
+    QString chosen = accepted && dialog ? result(*dialog) : QString();
     delete dialog;
     return chosen;
 }
