@@ -79,6 +79,7 @@ private Q_SLOTS:
     void folderIsEnteredByReturnInTheViews();
     void parentButtonLeadsToTheRootAndNoFurther();
     void backAndForwardAreCheckedAtEachClick();
+    void forwardIntoTheRootIsChecked();
     void historyHasNoOtherFolder();
     void sidebarIsOutOfUse();
 
@@ -214,6 +215,25 @@ void tst_LimitedFileDialogUse::backAndForwardAreCheckedAtEachClick()
     QTest::mouseClick(parts.forward, Qt::LeftButton);
     QCOMPARE(parts.shown(), m_tree->at(QStringLiteral("@/root/sub/deep")));
     QCOMPARE(confined.enabled().left(3), QStringLiteral("PB."));
+}
+
+void tst_LimitedFileDialogUse::forwardIntoTheRootIsChecked()
+{
+    // GIVEN a root that comes after a folder below it
+    Confined confined(*m_tree);
+    const FileDialogParts &parts = confined.parts;
+    QVERIFY(confined.show());
+    QVERIFY(parts.doubleClick(QStringLiteral("sub")));
+    QTest::mouseClick(parts.toParent, Qt::LeftButton);
+    QCOMPARE(parts.shown(), m_tree->root());
+    confined.dialog.setDirectory(m_tree->at(QStringLiteral("@/root/sub"))); // back is enabled
+    confined.dialog.setDirectory(m_tree->root());
+    QTest::mouseClick(parts.back, Qt::LeftButton);
+    QCOMPARE(parts.shown(), m_tree->at(QStringLiteral("@/root/sub")));
+
+    QTest::mouseClick(parts.forward, Qt::LeftButton);
+    QCOMPARE(parts.shown(), m_tree->root());
+    QCOMPARE(confined.enabled().left(3), QStringLiteral("..."));
 }
 
 void tst_LimitedFileDialogUse::historyHasNoOtherFolder()
