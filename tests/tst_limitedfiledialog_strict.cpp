@@ -67,7 +67,8 @@ public:
 
     QString path() const
     {
-        return QFileInfo(m_dir.path()).canonicalFilePath();
+        // Nothing comes and goes beside it, as it does among temporary folders.
+        return QFileInfo(m_dir.path()).canonicalFilePath() + QStringLiteral("/tree");
     }
 
     QString at(const char *name) const
