@@ -156,7 +156,13 @@ LimitedFileDialog::LimitedFileDialog(QWidget *parent, const QString &caption, co
     setStrict(strictByDefault);
 }
 
-LimitedFileDialog::~LimitedFileDialog() = default;
+LimitedFileDialog::~LimitedFileDialog()
+{
+    // The parts die after this, and what they tell then must find nobody.
+    const QList<QObject *> parts = findChildren<QObject *>();
+    for (QObject *part : parts)
+        part->disconnect(this);
+}
 
 void LimitedFileDialog::initFileDialog()
 {
