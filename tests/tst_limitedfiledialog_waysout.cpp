@@ -9,6 +9,7 @@
 #include "support/functionguard.h"
 #include "support/modaldriver.h"
 
+#include <QMessageBox>
 #include <QTest>
 #include <optional>
 #include <pwd.h>
@@ -68,6 +69,8 @@ private Q_SLOTS:
     void quotedNamesAreTakenApartAfterTheCheck();
     void backslashesAreReadAsSlashesBesideTheRoot();
     void twoDotsBehindALinkLeadUpFromItsTarget();
+
+    void fileOutsideIsSelectedUnseenAndDeleted();
 
     // Names that begin like the root
     void siblingWithTheSamePrefixIsInside();
@@ -229,6 +232,23 @@ void tst_LimitedFileDialogWaysOut::twoDotsBehindALinkLeadUpFromItsTarget()
     QCOMPARE(confined.dialog.result(), int(QDialog::Accepted));
     const QString result = confined.dialog.selectedFiles().value(0);
     QCOMPARE(QFileInfo(result).canonicalFilePath(), m_secret);
+}
+
+// Kept: QFileDialog selects what a full path names, though its view does not show it.
+void tst_LimitedFileDialogWaysOut::fileOutsideIsSelectedUnseenAndDeleted()
+{
+    Confined confined(*m_tree);
+    const FileDialogParts &parts = confined.parts;
+    QVERIFY(confined.show());
+    parts.edit->setFocus();
+    parts.edit->setText(m_secret);
+    QVERIFY(!parts.accepting()->isEnabled());
+    QVERIFY(!parts.list->selectionModel()->selectedIndexes().isEmpty());
+    ModalDriver driver(
+        [](QWidget *question) { qobject_cast<QMessageBox *>(question)->button(QMessageBox::Yes)->click(); });
+    QTest::keyClick(parts.list, Qt::Key_Delete);
+    QVERIFY(driver.ran());
+    QVERIFY(!QFile::exists(m_secret));
 }
 
 // Kept: the comparison asks for no separator behind the root.
