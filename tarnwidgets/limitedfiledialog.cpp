@@ -262,8 +262,8 @@ void LimitedFileDialog::checkLineEdit(const QString &text)
     if (!box || box->buttons().isEmpty())
         return;
     // Only ever disabled: QFileDialog enables it when the text changes again.
-    if (!typedTextFits(text))
-        box->buttons().constFirst()->setEnabled(false);
+    QAbstractButton *button = box->buttons().constFirst();
+    button->setEnabled(button->isEnabled() && typedTextFits(text));
 }
 
 void LimitedFileDialog::checkComboBox(int index)
@@ -378,6 +378,7 @@ QString LimitedFileDialog::getExistingDirectoryFromDlg(QWidget *parent, const QS
     limit(dialog, limitedPath, limitedPath1);
     dialog->setOptions(options);
     dialog->setFileMode(QFileDialog::Directory);
+    // Kept: the folder that is shown, not one that is selected in it.
     return runModally(dialog, [](const LimitedFileDialog &accepted) { return accepted.directory().path(); });
 }
 

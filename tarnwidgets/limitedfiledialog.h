@@ -61,6 +61,7 @@ public:
      * Admits a second folder, which the user reaches by the look-in list. Set
      * it before the first one, so that the list stays enabled. A path that is
      * empty or names no folder is ignored; there is no way back to one folder.
+     * Without a first folder there is no limit.
      */
     void setLimitedPath1(const QString &path);
 
@@ -97,7 +98,8 @@ public:
      * one, and a limited folder that is missing admits nothing; only an empty
      * path lifts the limit. The default is isStrictByDefault().
      *
-     * \note directoryEntered() may still name a folder that has been left already.
+     * \note directoryEntered() may still name a folder that has been left already, and fileSelected() a file
+     * that was exchanged for a link while Qt asked whether to overwrite it; the dialog is not accepted then.
      */
     bool isStrict() const;
     void setStrict(bool strict);
@@ -117,7 +119,8 @@ public:
      * and, unless it is empty, \a limitedPath1. They return an empty text if
      * the user cancels, or \a parent is deleted meanwhile.
      *
-     * This one returns the folder that the dialog shows when it is accepted.
+     * This one returns the folder that the dialog shows when it is accepted,
+     * not one that is selected in it: the user enters the folder to choose it.
      */
     static QString getExistingDirectoryFromDlg(QWidget *parent = nullptr, const QString &caption = QString(),
                                                const QString &dir = QString(),

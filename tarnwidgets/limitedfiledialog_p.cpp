@@ -8,11 +8,13 @@
 #include <QAbstractItemView>
 #include <QAbstractProxyModel>
 #include <QAccessible>
+#include <QCompleter>
 #include <QDir>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QFileSystemModel>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
@@ -61,6 +63,31 @@ QList<QAbstractItemView *> fileViews(const QObject *dialog)
     return views;
 }
 
+// Unlike rowCount(), without those at the end that have become empty.
+int rowsInUse(const QGridLayout *layout)
+{
+    for (int row = layout->rowCount() - 1; row >= 0; --row) {
+        for (int column = 0; column < layout->columnCount(); ++column) {
+            if (layout->itemAtPosition(row, column))
+                return row + 1;
+        }
+    }
+    return 0;
+}
+
+// "." or "..", which some filters show among the files.
+bool isDots(const QModelIndex &index)
+{
+    const QString name = index.data(QFileSystemModel::FileNameRole).toString();
+    return name == QLatin1String(".") || name == QLatin1String("..");
+}
+
+// Keys by which the views change files.
+bool changesFiles(int key)
+{
+    return key == Qt::Key_Delete || key == Qt::Key_F2;
+}
+
 // Events by which a user acts on a view, or sees it.
 bool isUse(QEvent::Type type)
 {
@@ -94,6 +121,7 @@ LimitGuard::LimitGuard(LimitedFileDialog *dialog)
     if (auto *edit = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))) {
         connect(edit, &QLineEdit::textEdited, this, &LimitGuard::clearNotice);
         connect(edit, &QLineEdit::textChanged, this, &LimitGuard::checkText);
+        m_completer = edit->completer();
     }
     if (auto *newFolder = dialog->findChild<QToolButton *>(QStringLiteral("newFolderButton")))
         connect(newFolder, &QToolButton::pressed, this, &LimitGuard::settle);
@@ -108,14 +136,18 @@ LimitGuard::LimitGuard(LimitedFileDialog *dialog)
 LimitGuard::~LimitGuard()
 {
     setShut(false);
+    m_roots.clear();
+    checkText(QString());
     delete m_notice;
 }
 
 void LimitGuard::setRoots(const QStringList &roots)
 {
     m_roots.clear();
-    for (const QString &root : roots)
-        m_roots.append(QFileInfo(root).absoluteFilePath());
+    for (const QString &root : roots) {
+        m_roots.append({QFileInfo(root).absoluteFilePath(), QString()});
+        standing(&m_roots.last());
+    }
     clearNotice();
     settle();
 }
@@ -135,11 +167,20 @@ bool LimitGuard::contains(const QString &path) const
     // Some programs clean a path before they open it, some do not. Behind a link ".." differs.
     const QString opened = resolved(absolute);
     const QString cleaned = resolved(QDir::cleanPath(absolute));
-    return std::any_of(m_roots.cbegin(), m_roots.cend(), [&](const QString &root) {
-        const QFileInfo info(root);
-        return info.isDir() && isWithin(opened, info.canonicalFilePath())
-            && isWithin(cleaned, info.canonicalFilePath());
+    return std::any_of(m_roots.begin(), m_roots.end(), [&](Root &root) {
+        const QString folder = standing(&root);
+        return !folder.isEmpty() && isWithin(opened, folder) && isWithin(cleaned, folder);
     });
+}
+
+// Where a permitted folder is; empty if it is gone, or something else has come to its place.
+QString LimitGuard::standing(Root *root)
+{
+    const QFileInfo info(root->path);
+    const QString canonical = info.isDir() ? info.canonicalFilePath() : QString();
+    if (root->canonical.isEmpty())
+        root->canonical = canonical;
+    return canonical == root->canonical ? canonical : QString();
 }
 
 QStringList LimitGuard::inside(const QStringList &paths) const
@@ -172,8 +213,7 @@ bool LimitGuard::admitsResult()
         refuse(shown);
         return false;
     }
-    // The folder counts too: it is the result of those who choose a folder.
-    const auto outside = firstOutside(QStringList(shown) + m_dialog->QFileDialog::selectedFiles());
+    const auto outside = firstOutside(m_dialog->QFileDialog::selectedFiles());
     if (outside)
         refuse(*outside);
     return !outside;
@@ -191,7 +231,7 @@ bool LimitGuard::eventFilter(QObject *watched, QEvent *event)
         if (event->type() == QEvent::LanguageChange)
             updateNotice();
         else if (event->type() == QEvent::ShortcutOverride)
-            dropForeignSelections();
+            dropForeignSelections(changesFiles(static_cast<QKeyEvent *>(event)->key()));
         return false;
     }
     if (!isUse(event->type()))
@@ -232,8 +272,13 @@ void LimitGuard::checkShownFolder()
 
 void LimitGuard::checkText(const QString &text)
 {
-    if (!text.isEmpty() && !contains(m_dialog->directory().absoluteFilePath(text)))
+    const bool fits = text.isEmpty() || contains(m_dialog->directory().absoluteFilePath(text));
+    if (!fits)
         refuse(text);
+    // What could be completed outside is nobody's business.
+    auto *edit = m_dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    if (edit && m_completer)
+        edit->setCompleter(fits ? m_completer : nullptr);
 }
 
 void LimitGuard::checkCurrent(const QString &path)
@@ -248,8 +293,10 @@ void LimitGuard::checkCurrent(const QString &path)
 
 void LimitGuard::goBackInside()
 {
-    const QStringList folders = QStringList(m_lastInside) + m_roots;
-    for (const QString &folder : folders) {
+    QStringList folders(m_lastInside);
+    for (const Root &root : qAsConst(m_roots))
+        folders.append(root.path);
+    for (const QString &folder : qAsConst(folders)) {
         if (QFileInfo(folder).isDir() && contains(folder)) {
             m_dialog->setDirectory(folder);
             return;
@@ -263,6 +310,7 @@ void LimitGuard::settle()
     if (!isShownPermitted())
         goBackInside();
     setShut(!isShownPermitted());
+    updateNewFolder();
     if (m_roots.isEmpty() || m_shut)
         return;
     m_lastInside = shownFolder();
@@ -282,22 +330,24 @@ void LimitGuard::settleView(QAbstractItemView *view) const
 }
 
 // Typing the path of a file selects it, wherever it is, and the views would rename and delete it.
-void LimitGuard::dropForeignSelections() const
+// The entries of dots stand for folders above, too, but may be walked over and entered.
+void LimitGuard::dropForeignSelections(bool dots) const
 {
     for (const auto *view : fileViews(m_dialog))
-        dropForeignSelection(view);
+        dropForeignSelection(view, dots);
 }
 
-void LimitGuard::dropForeignSelection(const QAbstractItemView *view) const
+void LimitGuard::dropForeignSelection(const QAbstractItemView *view, bool dots) const
 {
     auto *selection = view->selectionModel();
     if (m_roots.isEmpty() || !selection)
         return;
     const QModelIndexList indexes = QModelIndexList(selection->selectedIndexes())
         << selection->currentIndex();
-    const bool foreign = std::any_of(indexes.cbegin(), indexes.cend(), [view](const QModelIndex &index) {
-        return index.isValid() && index.parent() != view->rootIndex();
-    });
+    const bool foreign =
+        std::any_of(indexes.cbegin(), indexes.cend(), [view, dots](const QModelIndex &index) {
+            return index.isValid() && (index.parent() != view->rootIndex() || (dots && isDots(index)));
+        });
     if (foreign)
         selection->clear();
 }
@@ -310,12 +360,21 @@ void LimitGuard::setShut(bool shut)
     m_shut = shut;
     if (auto *views = m_dialog->findChild<QWidget *>(QStringLiteral("stackedWidget")))
         views->setVisible(!shut);
-    if (auto *newFolder = m_dialog->findChild<QWidget *>(QStringLiteral("newFolderButton")))
-        newFolder->setEnabled(!shut);
+    updateNewFolder();
     if (shut)
         refuse(shownFolder());
     else
         clearNotice();
+}
+
+// QFileDialog sets the button for each folder that it enters, those that are left again at once included.
+void LimitGuard::updateNewFolder() const
+{
+    auto *button = m_dialog->findChild<QWidget *>(QStringLiteral("newFolderButton"));
+    if (!button || !m_model)
+        return;
+    const Qt::ItemFlags flags = m_model->flags(m_model->index(m_model->rootPath()));
+    button->setEnabled(!m_shut && flags.testFlag(Qt::ItemIsDropEnabled));
 }
 
 // The first path outside that the drop has to do with.
@@ -339,8 +398,10 @@ bool LimitGuard::filterViewEvent(QAbstractItemView *view, QEvent *event)
     switch (event->type()) {
     case QEvent::KeyPress:
     case QEvent::ShortcutOverride:
+        dropForeignSelection(view, changesFiles(static_cast<QKeyEvent *>(event)->key()));
+        return false;
     case QEvent::ContextMenu:
-        dropForeignSelection(view);
+        dropForeignSelection(view, true);
         return false;
     case QEvent::DragEnter:
     case QEvent::DragMove:
@@ -369,7 +430,7 @@ void LimitGuard::addNotice()
     // A long text must not make the dialog wider.
     m_notice->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_notice->hide();
-    layout->addWidget(m_notice, layout->rowCount(), 0, 1, -1);
+    layout->addWidget(m_notice, rowsInUse(layout), 0, 1, -1);
 }
 
 void LimitGuard::updateNotice()

@@ -9,9 +9,11 @@
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
+#include <QVector>
 #include <optional>
 
 class QAbstractItemView;
+class QCompleter;
 class QDropEvent;
 class QFileSystemModel;
 class QLabel;
@@ -57,6 +59,13 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    struct Root
+    {
+        QString path;
+        QString canonical; // where it was first found
+    };
+
+    static QString standing(Root *root);
     QString shownFolder() const;
     bool isShownPermitted() const;
     void checkShownFolder();
@@ -65,9 +74,10 @@ private:
     void goBackInside();
     void settle();
     void settleView(QAbstractItemView *view) const;
-    void dropForeignSelections() const;
-    void dropForeignSelection(const QAbstractItemView *view) const;
+    void dropForeignSelections(bool dots) const;
+    void dropForeignSelection(const QAbstractItemView *view, bool dots) const;
     void setShut(bool shut);
+    void updateNewFolder() const;
     std::optional<QString> foreignPath(const QAbstractItemView *view, const QDropEvent *drop) const;
     std::optional<QString> firstOutside(const QStringList &paths) const;
     bool filterViewEvent(QAbstractItemView *view, QEvent *event);
@@ -77,8 +87,9 @@ private:
 
     LimitedFileDialog *const m_dialog;
     QPointer<QFileSystemModel> m_model;
+    QPointer<QCompleter> m_completer;
     QPointer<QLabel> m_notice;
-    QStringList m_roots;
+    mutable QVector<Root> m_roots;
     QString m_lastInside; // the folder to go back to
     QString m_refused; // what the notice is about
     bool m_shut = false; // there is no permitted folder left to show
