@@ -33,7 +33,11 @@ endfunction()
 # For our shared libraries: nothing undefined, and nothing visible but our own exported classes.
 function(tarn_link_strictly target)
     set(exports ${PROJECT_SOURCE_DIR}/cmake/exports.map)
-    target_link_options(${target} PRIVATE -Wl,--no-undefined -Wl,--version-script=${exports})
+    target_link_options(${target} PRIVATE -Wl,--version-script=${exports})
+    # Clang leaves the sanitizers' symbols to the program.
+    if(NOT TARN_SANITIZE OR NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        target_link_options(${target} PRIVATE -Wl,--no-undefined)
+    endif()
     set_target_properties(${target} PROPERTIES LINK_DEPENDS ${exports})
 endfunction()
 
