@@ -3,11 +3,14 @@
 
 #include "customcolorfile_p.h"
 
+#include <QDataStream>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QSaveFile>
+#include <QVariant>
 #include <algorithm>
+#include <cstring>
 
 namespace Tarn::Widgets {
 
@@ -17,48 +20,224 @@ constexpr qint64 LargestFile = 1LL << 22; // four megabytes
 constexpr int LockTimeout = 1000; // milliseconds
 
 const char ColorKey[] = "customColor";
+const char ByteOrderMark[] = "\xef\xbb\xbf";
 
-bool isGroup(const QByteArray &line)
+bool isLineEnd(char character)
 {
-    return line.trimmed().startsWith('[');
+    return character == '\n' || character == '\r';
 }
 
-/* With or without the closing bracket, as QSettings has it. */
-bool isGeneralGroup(const QByteArray &line)
+bool isBlank(char character)
 {
-    const QByteArray name = line.trimmed().toLower();
-    return name == "[general]" || name == "[general";
+    return character == ' ' || character == '\t' || isLineEnd(character);
 }
 
-bool isColorLine(const QByteArray &line)
+/* Form feeds and the like are no blanks here. */
+QByteArray trimmed(const QByteArray &text)
 {
-    const int equals = line.indexOf('=');
-    return equals > 0 && line.left(equals).trimmed() == ColorKey;
+    const auto *begin = std::find_if_not(text.cbegin(), text.cend(), isBlank);
+    const auto end = std::find_if_not(text.crbegin(), std::make_reverse_iterator(begin), isBlank);
+    return QByteArray(begin, int(end.base() - begin));
 }
 
-/* Of a larger number the low bits count, as with QVariant. */
-QRgb colorIn(const QByteArray &item)
+/* The place behind the character there, which may be a line end of two. */
+int behindCharacter(const QByteArray &text, int pos)
 {
-    QByteArray number = item.trimmed();
-    if (number.size() > 1 && number.startsWith('"') && number.endsWith('"'))
-        number = number.mid(1, number.size() - 2);
-    return QRgb(number.toULongLong());
+    const QByteArray pair = text.mid(pos, 2);
+    return qMin(text.size(), pos + (pair == "\r\n" || pair == "\n\r" ? 2 : 1));
 }
 
-/* As many as there are between the commas, up to sixteen. One alone is no list. */
-QVector<QRgb> colorsIn(const QByteArray &line)
+/* A line as it is meant: line ends that are quoted or behind a backslash do not end it. */
+struct Line
 {
-    const int begin = line.indexOf('=') + 1;
-    const int comment = line.indexOf(';', begin);
-    const QByteArray value = line.mid(begin, comment < 0 ? -1 : comment - begin);
-    QVector<QRgb> colors;
-    int from = value.contains(',') ? 0 : value.size() + 1;
-    while (from <= value.size() && colors.size() < CustomColorCount) {
-        const int comma = value.indexOf(',', from);
-        const int to = comma < 0 ? value.size() : comma;
-        colors.append(colorIn(value.mid(from, to - from)));
-        from = to + 1;
+    Line(const QByteArray &text, int begin);
+
+    QByteArray content; // without blanks before it, and comments
+    int equals = -1; // in the content
+    int end;
+};
+
+Line::Line(const QByteArray &text, int begin)
+{
+    while (begin < text.size() && isBlank(text.at(begin)) && !isLineEnd(text.at(begin)))
+        ++begin;
+    end = begin;
+    bool isQuoted = false;
+    while (end < text.size()) {
+        const char character = text.at(end);
+        if (!isQuoted && (character == ';' || isLineEnd(character)))
+            break;
+        if (!isQuoted && character == '=' && equals < 0)
+            equals = end - begin;
+        if (character == '"')
+            isQuoted = !isQuoted;
+        end = character == '\\' ? behindCharacter(text, end + 1) : end + 1;
     }
+    content = text.mid(begin, end - begin);
+    while (end < text.size() && !isLineEnd(text.at(end)))
+        ++end;
+    end = text.mid(end, 2) == "\r\n" ? end + 2 : qMin(text.size(), end + 1);
+}
+
+bool isGroup(const Line &line)
+{
+    return line.content.startsWith('[');
+}
+
+/* With or without the closing bracket. */
+bool isGeneralGroup(const Line &line)
+{
+    const QByteArray name = line.content.mid(1).split(']').constFirst();
+    return isGroup(line) && name.trimmed().toLower() == "general";
+}
+
+bool isColorList(const Line &line)
+{
+    if (line.equals < 0)
+        return false;
+    return QByteArray::fromPercentEncoding(trimmed(line.content.left(line.equals))) == ColorKey;
+}
+
+/* The items of a value, without quotes and escapes; of a long list only the beginning. */
+class ItemReader
+{
+public:
+    explicit ItemReader(const QByteArray &value);
+
+    const QStringList &items() const
+    {
+        return m_items;
+    }
+
+private:
+    void readEscape();
+    void readCharacter(int base);
+    void skipBlanks();
+
+    const QByteArray m_value;
+    int m_pos = 0;
+    QStringList m_items = {QString()};
+};
+
+ItemReader::ItemReader(const QByteArray &value)
+    : m_value(value)
+{
+    bool isQuoted = false;
+    skipBlanks();
+    while (m_pos < m_value.size() && m_items.size() <= CustomColorCount) {
+        const char character = m_value.at(m_pos++);
+        if (character == '\\') {
+            readEscape();
+        } else if (character == '"') {
+            isQuoted = !isQuoted;
+            if (!isQuoted)
+                skipBlanks();
+        } else if (character == ',' && !isQuoted) {
+            m_items.append(QString());
+            skipBlanks();
+        } else {
+            m_items.last() += QLatin1Char(character);
+        }
+    }
+}
+
+void ItemReader::readEscape()
+{
+    static constexpr char Codes[] = "abfnrtv\"?'\\";
+    static constexpr char Characters[] = "\a\b\f\n\r\t\v\"?'\\";
+    if (m_pos == m_value.size())
+        return;
+    const char code = m_value.at(m_pos);
+    const bool isOctal = code >= '0' && code <= '7';
+    if (!isOctal)
+        m_pos = behindCharacter(m_value, m_pos);
+    if (isOctal)
+        readCharacter(8);
+    else if (code == 'x')
+        readCharacter(16);
+    else if (const void *found = std::memchr(Codes, code, sizeof(Codes) - 1))
+        m_items.last() += QLatin1Char(Characters[static_cast<const char *>(found) - Codes]);
+}
+
+/* One that is given by its number. */
+void ItemReader::readCharacter(int base)
+{
+    static constexpr char Digits[] = "0123456789abcdef";
+    const int begin = m_pos;
+    int number = 0;
+    for (; m_pos < m_value.size(); ++m_pos) {
+        const char digit = m_value.mid(m_pos, 1).toLower().at(0);
+        const auto *end = Digits + base;
+        const auto *found = std::find(Digits, end, digit);
+        if (found == end)
+            break;
+        number = (number * base + int(found - Digits)) & 0xffff;
+    }
+    if (m_pos > begin)
+        m_items.last() += QChar(number);
+}
+
+void ItemReader::skipBlanks()
+{
+    while (m_pos < m_value.size() && isBlank(m_value.at(m_pos)))
+        ++m_pos;
+}
+
+/* What stands between the parentheses behind a mark, if all of the item is that. */
+QString marked(const QString &item, const char *mark)
+{
+    const int begin = int(std::strlen(mark)) + 1;
+    const bool isMarked =
+        item.startsWith(QLatin1String(mark) + QLatin1Char('(')) && item.endsWith(QLatin1Char(')'));
+    return isMarked ? item.mid(begin, item.size() - begin - 1) : QString();
+}
+
+/* Of a larger number the low bits count. */
+QRgb colorIn(const QString &item)
+{
+    for (const char *mark : {"@ByteArray", "@String"}) {
+        const QString text = marked(item.trimmed(), mark);
+        if (!text.isEmpty())
+            return QVariant(text).toUInt();
+    }
+    return QVariant(item).toUInt();
+}
+
+/* The one value of a list that is written as an object, as lists of one are. Only plain kinds are read:
+ * others may be of any size. */
+QVector<QRgb> colorsInObject(const QString &object)
+{
+    static constexpr quint32 PlainKinds[] = {QMetaType::Bool,     QMetaType::Int,       QMetaType::UInt,
+                                             QMetaType::LongLong, QMetaType::ULongLong, QMetaType::Double,
+                                             QMetaType::QString,  QMetaType::QByteArray};
+    const QByteArray bytes = object.toLatin1();
+    QDataStream stream(bytes);
+    stream.setVersion(QDataStream::Qt_4_0);
+    quint32 kind = 0;
+    quint32 count = 0;
+    quint32 valueKind = 0;
+    stream >> kind >> count;
+    if (kind != QMetaType::QVariantList || count != 1)
+        return {};
+    const qint64 begin = stream.device()->pos();
+    stream >> valueKind;
+    if (std::find(std::cbegin(PlainKinds), std::cend(PlainKinds), valueKind) == std::cend(PlainKinds))
+        return {0};
+    stream.device()->seek(begin);
+    QVariant value;
+    stream >> value;
+    return {value.toUInt()};
+}
+
+/* Up to sixteen. A single item is no list unless it says so. */
+QVector<QRgb> colorsIn(const QByteArray &value)
+{
+    const QStringList items = ItemReader(value).items();
+    if (items.size() == 1)
+        return colorsInObject(marked(items.constFirst(), "@Variant"));
+    QVector<QRgb> colors;
+    for (const QString &item : items.mid(0, CustomColorCount))
+        colors.append(colorIn(item));
     return colors;
 }
 
@@ -66,18 +245,20 @@ QVector<QRgb> colorsIn(const QByteArray &line)
 
 CustomColorText::CustomColorText(const QByteArray &text)
 {
+    if (text.startsWith(ByteOrderMark))
+        mark = ByteOrderMark;
     bool isGeneral = true; // before the first group as well
-    for (int begin = 0; begin < text.size();) {
-        const int newline = text.indexOf('\n', begin);
-        const int end = newline < 0 ? text.size() : newline + 1;
-        const QByteArray line = text.mid(begin, end - begin);
+    for (int begin = mark.size(); begin < text.size();) {
+        const Line line(text, begin);
         if (isGroup(line))
             isGeneral = isGeneralGroup(line);
-        if (isGeneral && isColorLine(line))
-            colors = colorsIn(line);
-        else if (begin > 0 || !isGeneralGroup(line))
-            rest += line;
-        begin = end;
+        const QByteArray whole = text.mid(begin, line.end - begin);
+        const bool isOurGroup = begin == mark.size() && isGeneralGroup(line) && !whole.contains(';');
+        if (isGeneral && !isGroup(line) && isColorList(line))
+            colors = colorsIn(line.content.mid(line.equals + 1));
+        else if (!isOurGroup)
+            rest += whole;
+        begin = line.end;
     }
 }
 
@@ -86,7 +267,7 @@ QByteArray CustomColorText::text() const
     QByteArrayList numbers;
     for (const QRgb color : colors)
         numbers.append(QByteArray::number(color));
-    return QByteArray("[General]\n") + ColorKey + '=' + numbers.join(", ") + '\n' + rest;
+    return mark + "[General]\n" + ColorKey + '=' + numbers.join(", ") + '\n' + rest;
 }
 
 CustomColorFile::CustomColorFile(const QString &path)

@@ -47,7 +47,7 @@ private:
     QString m_path;
 };
 
-/*! The text of such a file, in two parts. */
+/*! The text of such a file, taken apart as QSettings does it. */
 struct CustomColorText
 {
     /*! Takes any text at all. */
@@ -56,6 +56,7 @@ struct CustomColorText
     /*! The list comes first, where nothing that is broken comes before it. */
     QByteArray text() const;
 
+    QByteArray mark; //!< Which says at the beginning that the text is UTF-8, or nothing.
     QVector<QRgb> colors; //!< Empty if there is no list.
     QByteArray rest; //!< All but the list and the name of the group that it is in.
 };

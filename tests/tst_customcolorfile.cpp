@@ -89,9 +89,69 @@ QMap<QString, QVariant> settingsOnDisk(const QString &path)
         return values;
     const QSettings settings(copy, QSettings::IniFormat);
     const QStringList keys = settings.allKeys();
-    for (const QString &key : keys)
-        values.insert(key, settings.value(key));
+    for (const QString &key : keys) {
+        // Others are not found by what they are called.
+        if (!key.isEmpty() && !key.startsWith(QLatin1Char('/')) && !key.endsWith(QLatin1Char('/'))
+            && !key.contains(QLatin1String("//")))
+            values.insert(key, settings.value(key));
+    }
     return values;
+}
+
+QByteArray randomText(std::minstd_rand &random)
+{
+    static const QByteArrayList pieces = {"customColor",
+                                          "customColor=1, 2",
+                                          "customColor=",
+                                          "%63ustomColor",
+                                          "%",
+                                          "=",
+                                          "=",
+                                          "a=",
+                                          "b=x",
+                                          "1",
+                                          "2",
+                                          "300",
+                                          "-5",
+                                          "+3",
+                                          "0x1",
+                                          "1.5",
+                                          "4294967297",
+                                          "18446744073709551616",
+                                          " ",
+                                          "\t",
+                                          "\f",
+                                          ",",
+                                          ", ",
+                                          "\n",
+                                          "\n",
+                                          "\n",
+                                          "\r\n",
+                                          "\r",
+                                          "\"",
+                                          "\\",
+                                          "\\\n",
+                                          "\\x31",
+                                          "\\061",
+                                          "\\\"",
+                                          "\\q",
+                                          ";",
+                                          "; x",
+                                          "[",
+                                          "]",
+                                          "[General]",
+                                          "[general",
+                                          "[B]",
+                                          "[%General]",
+                                          "@Invalid()",
+                                          "@ByteArray(12)",
+                                          "@String(7)",
+                                          "@@",
+                                          "@Size(1 2)"};
+    QByteArray text = random() % 9 == 0 ? "\xef\xbb\xbf[" : "";
+    for (unsigned i = random() % 14; i > 0; --i)
+        text += pieces.at(int(random() % uint(pieces.size())));
+    return text;
 }
 
 /* What files get written like. */
@@ -152,13 +212,17 @@ private Q_SLOTS:
     void readingDoesNotMakeTheFile();
     void fileIsReadAsSettingsAreRead_data();
     void fileIsReadAsSettingsAreRead();
+    void listOfOneIsRead_data();
+    void listOfOneIsRead();
     void everyPrefixOfTheFileIsRead();
+    void randomFilesAreTakenAsSettingsTakeThem();
     void anyTextKeepsItsRest_data();
     void anyTextKeepsItsRest();
 
     void otherSettingsStay();
     void textOfOthersStaysByteByByte_data();
     void textOfOthersStaysByteByByte();
+    void byteOrderMarkStaysAtTheBeginning();
     void plainSettingsReadTheListBesideBrokenText();
     void objectsAreNotMade_data();
     void objectsAreNotMade();
@@ -272,6 +336,17 @@ void tst_CustomColorFile::fileIsReadAsSettingsAreRead_data()
     row("no blanks", general + "customColor=1,2,3\n", beginning({1, 2, 3}));
     row("many blanks", general + "  customColor  =  1 ,\t2 \n", beginning({1, 2}));
     row("comment", general + "; comment\ncustomColor=1, 2 ; comment\n", beginning({1, 2}));
+    row("a quote that is never closed", general + "a=\"\ncustomColor=1, 2\n", untouched);
+    row("our key within another value", general + "a=\"\ncustomColor=1, 2\n\"\n", untouched);
+    row("our key behind a backslash", general + "a=b\\\ncustomColor=1, 2\n", untouched);
+    row("our key behind a quote in a comment", general + "; \"\ncustomColor=1, 2 ; \"\n", beginning({1, 2}));
+    row("list over two lines", general + "customColor=1, \\\n2\n", beginning({1, 2}));
+    row("escaped key", general + "%63ustomColor=1, 2\n", beginning({1, 2}));
+    row("escaped numbers", general + "customColor=\\x31\\x46, \\062, \\x32\n", beginning({0, 2, 2}));
+    row("group line with more behind it", "[B]\nb=1\n[ General ] x ; y\ncustomColor=1, 2\n",
+        beginning({1, 2}));
+    row("quoted comma", general + "customColor=\"1, 2\", 3\n", beginning({0, 3}));
+    row("quoted list", general + "customColor=\"1, 2\"\n", untouched);
     row("quoted numbers", general + "customColor=\"1\", \"2\"\n", beginning({1, 2}));
     row("largest number", general + "customColor=4294967295, 4294967294\n",
         beginning({0xffffffff, 0xfffffffe}));
@@ -284,7 +359,7 @@ void tst_CustomColorFile::fileIsReadAsSettingsAreRead_data()
     row("gaps", general + "customColor=, , 3\n", beginning({0, 0, 3}));
     row("no value of its own", general + "customColor=@Invalid(), 3\n", beginning({0, 3}));
     row("wrong kinds", general + "customColor=@Size(3 4), @Rect(1 2 3 4), 3\n", beginning({0, 0, 3}));
-    row("null bytes", general + QByteArray("customColor=1\0, 2\0\0\n", 20), beginning({1, 2}));
+    row("null bytes", general + QByteArray("customColor=1\0, 2\0\0, 3\n", 23), beginning({0, 0, 3}));
     row("binary",
         QByteArray("\x7f"
                    "ELF\2\1\1\0\0\0\xff\xfe\xfd[\n=\n]=,\n\0",
@@ -304,6 +379,36 @@ void tst_CustomColorFile::fileIsReadAsSettingsAreRead()
     // and the next write puts any file right.
     writeTo(path(), from(100));
     QCOMPARE(readFrom(path()), from(100));
+}
+
+// QSettings writes a list of one value as an object.
+void tst_CustomColorFile::listOfOneIsRead_data()
+{
+    QTest::addColumn<QVariant>("value");
+    const auto row = [](const char *name, const QVariant &value) { QTest::newRow(name) << value; };
+    row("number without a sign", 0xff2c3d5bU); // in bytes that have to be quoted
+    row("largest number", 0xffffffffU);
+    row("number with a sign", -2);
+    row("long number", Q_INT64_C(4294967303));
+    row("long number without a sign", Q_UINT64_C(18446744073709551615));
+    row("number with a fraction", 7.5);
+    row("truth", true);
+    row("text", QStringLiteral("4278190335"));
+    row("word", QStringLiteral("red"));
+    row("bytes", QByteArray("77"));
+    row("colour", QColor(1, 2, 3)); // of which no number is made
+    row("nothing", QVariant());
+}
+
+void tst_CustomColorFile::listOfOneIsRead()
+{
+    QFETCH(QVariant, value);
+    {
+        QSettings settings(path(), QSettings::IniFormat);
+        settings.setValue(QStringLiteral("/customColor"), QVariantList({value}));
+    }
+    QVERIFY(contents(path()).contains("@Variant"));
+    QCOMPARE(readFrom(path()), beginning({value.toUInt()}));
 }
 
 void tst_CustomColorFile::everyPrefixOfTheFileIsRead()
@@ -332,6 +437,34 @@ void tst_CustomColorFile::everyPrefixOfTheFileIsRead()
             }
             QCOMPARE(colors.at(uint(i)), Untouched);
         }
+    }
+}
+
+void tst_CustomColorFile::randomFilesAreTakenAsSettingsTakeThem()
+{
+    // The generator's sequence is part of the C++ standard, so the texts are the same everywhere.
+    std::minstd_rand random(7);
+    for (int i = 0; i < 400; ++i) {
+        // GIVEN any mixture of what such files are made of
+        const QByteArray text = randomText(random);
+        QVERIFY(putContents(path(), text));
+        QMap<QString, QVariant> before = settingsOnDisk(path());
+
+        // WHEN it is read, THEN the colours are those that QSettings finds
+        Colors colors = allOf(Untouched);
+        const QVariantList list = before.take(QStringLiteral("customColor")).toList().mid(0, Count);
+        std::transform(list.cbegin(), list.cend(), colors.begin(),
+                       [](const QVariant &value) { return value.toUInt(); });
+        QVERIFY2(readFrom(path()) == colors, QTest::toPrettyCString(text.constData(), text.size()));
+
+        // and WHEN it is written, THEN QSettings finds our colours, and all else as before
+        CustomColorText content(text);
+        content.colors = QVector<QRgb>(Count, 7);
+        QVERIFY(putContents(path(), content.text()));
+        QMap<QString, QVariant> after = settingsOnDisk(path());
+        QVERIFY2(after.take(QStringLiteral("customColor")).toList().size() == Count,
+                 QTest::toPrettyCString(text.constData(), text.size()));
+        QVERIFY2(after == before, QTest::toPrettyCString(text.constData(), text.size()));
     }
 }
 
@@ -439,11 +572,16 @@ void tst_CustomColorFile::textOfOthersStaysByteByByte_data()
     row("no line end behind the group", "[General]", "");
     row("line ends of Windows", "[General]\r\ncustomColor=7, 8\r\na=1\r\n", "a=1\r\n");
     row("line ends of old", "a=1\rb=2\r", "a=1\rb=2\r");
-    row("byte order mark", "\xef\xbb\xbf[General]\n" + own + "a=1\n", "\xef\xbb\xbf[General]\na=1\n");
     row("other encodings", "a=\xe9\x80\xa0 \xe4\nb=\\x989c\n", "a=\xe9\x80\xa0 \xe4\nb=\\x989c\n");
     row("null bytes", QByteArray("a=\0\0\n\0\n", 7) + own, QByteArray("a=\0\0\n\0\n", 7));
     row("objects", general + objects + own, objects);
-    row("a value over two lines", "a=\"1\n[b]\n" + own, "a=\"1\n[b]\n" + own);
+    row("a value without an end", "a=\"1\n[b]\n" + own, "a=\"1\n[b]\n" + own);
+    row("our key within a value", "a=\"1\n" + own + "2\"\n" + own, "a=\"1\n" + own + "2\"\n");
+    row("our key behind a backslash", "a=1\\\n" + own, "a=1\\\n" + own);
+    row("our list over two lines", general + "customColor=1, \\\n2\na=1\n", "a=1\n");
+    row("our key escaped", general + "%63ustomColor=1, 2\na=1\n", "a=1\n");
+    row("a comment behind the group", "[General] ; a\n" + own, "[General] ; a\n");
+    row("empty lines", general + "\n\n" + own + "\n", "\n\n\n");
 }
 
 void tst_CustomColorFile::textOfOthersStaysByteByByte()
@@ -459,6 +597,16 @@ void tst_CustomColorFile::textOfOthersStaysByteByByte()
     // A second write finds the same rest.
     writeTo(path(), from(1));
     QCOMPARE(contents(path()), "[General]\n" + OneToSixteen + rest);
+    QCOMPARE(readFrom(path()), from(1));
+}
+
+// The mark makes the text UTF-8, and is one at the beginning only.
+void tst_CustomColorFile::byteOrderMarkStaysAtTheBeginning()
+{
+    QVERIFY(putContents(path(), "\xef\xbb\xbf[B]\nb=\xe9\xa2\x9c\n[General]\ncustomColor=7, 8\n"));
+    writeTo(path(), from(1));
+    QCOMPARE(contents(path()), "\xef\xbb\xbf[General]\n" + OneToSixteen + "[B]\nb=\xe9\xa2\x9c\n[General]\n");
+    QCOMPARE(settingsOnDisk(path()).value(QStringLiteral("B/b")).toString(), QStringLiteral("颜"));
     QCOMPARE(readFrom(path()), from(1));
 }
 

@@ -43,5 +43,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const CustomColorText again(content.text());
     require(again.colors == content.colors);
     require(again.rest == content.rest);
+    require(again.mark == content.mark);
     return 0;
 }
