@@ -3,6 +3,7 @@
 
 #include "page.h"
 
+#include "colordialogpage.h"
 #include "controlspage.h"
 #include "dialogspage.h"
 #include "filedialogspage.h"
@@ -15,8 +16,8 @@ namespace Gallery {
 
 QVector<Page> pages()
 {
-    return {TitleBarPage::page(),   DialogsPage::page(),  MessageBoxPage::page(), FileDialogsPage::page(),
-            SeparatorsPage::page(), ControlsPage::page(), StyleSheetPage::page()};
+    return {TitleBarPage::page(),    DialogsPage::page(),    MessageBoxPage::page(), FileDialogsPage::page(),
+            ColorDialogPage::page(), SeparatorsPage::page(), ControlsPage::page(),   StyleSheetPage::page()};
 }
 
 } // namespace Gallery
