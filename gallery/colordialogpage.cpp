@@ -63,7 +63,7 @@ ColorDialogPage::ColorDialogPage(Appearance *appearance, QWidget *parent)
     font.setPixelSize(CodePixels);
     m_code->setFont(font);
     m_code->setAccessibleName(tr("Code"));
-    m_code->setFixedHeight(80);
+    m_code->setFixedHeight(96);
     auto *result = new QVBoxLayout;
     result->setSpacing(10);
     result->addWidget(createPreview(), 1);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the tarnwidgets developers
 // SPDX-License-Identifier: MIT
 
+#include "support/colordialogparts.h"
 #include "support/functionguard.h"
 
 #include <QAbstractItemView>
@@ -23,6 +24,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSet>
@@ -36,6 +38,7 @@
 #include <algorithm>
 #include <memory>
 #include <optional>
+#include <tarnwidgets/colordialog.h>
 #include <tarnwidgets/framelessdialog.h>
 #include <tarnwidgets/framelessmessagebox.h>
 #include <tarnwidgets/framelesswindow.h>
@@ -124,6 +127,8 @@ struct Step
     QSet<QString> properties; // all with the value true
     QSet<QString> subcontrols;
     QSet<QString> states;
+    bool isClassProperty =
+        false; // the name with a dot: the widget's property "class", by default its very class
     bool isChild = false; // of the widget that the step before is about, else any descendant
     QString unread;
 };
@@ -159,6 +164,7 @@ QVector<Step> stepsOf(const QString &selector)
         step.properties = toSet(takeAll(&word, QStringLiteral("\\[(\\w+)=\"true\"\\]")));
         step.subcontrols = toSet(takeAll(&word, QStringLiteral("::([\\w-]+)")));
         step.states = toSet(takeAll(&word, QStringLiteral(":!?([\\w-]+)")));
+        step.isClassProperty = !takeAll(&word, QStringLiteral("^(\\.)")).isEmpty();
         step.className = takeAll(&word, QStringLiteral("^(\\w[\\w-]*)")).value(0);
         step.unread = word;
         steps.append(step);
@@ -179,7 +185,10 @@ QStringList classNames(const QWidget *widget)
 
 bool matches(const QWidget *widget, const Step &step)
 {
-    return classNames(widget).contains(step.className)
+    const QStringList names = classNames(widget);
+    const QString styleClass =
+        widget->property("class").isValid() ? widget->property("class").toString() : names.constFirst();
+    return (step.isClassProperty ? styleClass == step.className : names.contains(step.className))
         && std::all_of(step.properties.cbegin(), step.properties.cend(), [=](const QString &property) {
                return widget->property(qPrintable(property)) == QVariant(true);
            });
@@ -241,6 +250,7 @@ struct World
 
     FramelessWindow window;
     FramelessDialog dialog;
+    ColorDialog colorDialog{Qt::red};
     FramelessMessageBox messageBox{QMessageBox::Information, QString(), QString(), QMessageBox::Ok};
 };
 
@@ -326,6 +336,8 @@ private Q_SLOTS:
     void titleButtonsIconCanBeTakenAway();
     void titleBarsHaveTheDocumentedHeights();
     void dialogNeedsTheHeightThatItTells();
+    void colorDialogHasRoomForItsFields_data();
+    void colorDialogHasRoomForItsFields();
 
 private:
     static void addStyleSheetRows();
@@ -413,6 +425,8 @@ void tst_Themes::matcherTellsMisspeltSelectors_data()
     QTest::newRow("a property") << QStringLiteral("QFrame[isTitelBar=\"true\"]");
     QTest::newRow("a property of another widget") << QStringLiteral("QFrame[isTitleBarCloseButton=\"true\"]");
     QTest::newRow("a class") << QStringLiteral("QPushButon");
+    QTest::newRow("the class of a button that has a property of that name")
+        << QStringLiteral("QDialog[isColorEditDialog=\"true\"] .QPushButton");
     QTest::newRow("an ancestor") << QStringLiteral("QMenu[isTitleBar=\"true\"] > QToolButton");
     QTest::newRow("a grandchild as a child") << QStringLiteral(
         "QFrame[isFramelessCentralWidget=\"true\"] > QToolButton[isTitleBarButton=\"true\"]");
@@ -634,6 +648,53 @@ void tst_Themes::dialogNeedsTheHeightThatItTells()
 
     // THEN all the rest is as high as it says
     QCOMPARE(dialog.sizeHint().height(), 100 + dialog.noCentralHeight());
+}
+
+void tst_Themes::colorDialogHasRoomForItsFields_data()
+{
+    QTest::addColumn<QString>("theme");
+    for (const char *theme : {"dark", "light"})
+        QTest::newRow(theme) << QString::fromLatin1(theme);
+}
+
+void tst_Themes::colorDialogHasRoomForItsFields()
+{
+    QFETCH(QString, theme);
+
+    // GIVEN the colour dialog in a theme, with a font of the size that it is made for
+    const QFont formerFont = QApplication::font();
+    const auto restore = qScopeGuard([&] { QApplication::setFont(formerFont); });
+    QFont font = formerFont;
+    font.setPixelSize(14);
+    QApplication::setFont(font);
+    qApp->setStyleSheet(styleSheet(theme));
+    ColorDialog dialog(Qt::red);
+    dialog.show();
+    const Tarn::Test::ColorDialogParts parts(&dialog);
+    QVERIFY(parts.isComplete());
+
+    // THEN every field is inside the room that it has, and shows its longest text, with two pixels beside it
+    QVector<QWidget *> fields;
+    for (QSpinBox *box : parts.boxes) {
+        if (box->isVisible())
+            fields.append(box);
+    }
+    fields.append(parts.html);
+    QCOMPARE(fields.size(), 7);
+    for (QWidget *field : qAsConst(fields)) {
+        QVERIFY2(parts.shower->rect().contains(field->geometry()), field->metaObject()->className());
+        const auto *box = qobject_cast<QSpinBox *>(field);
+        const QString text = box ? QString::number(box->maximum()) : QStringLiteral("#d0d0d0");
+        const auto *edit = box ? box->findChild<QLineEdit *>() : parts.html;
+        const QRect room = box ? edit->rect() : edit->rect().adjusted(8, 1, -8, -1);
+        QVERIFY(edit->fontMetrics().horizontalAdvance(text) + 4 <= room.width());
+        QVERIFY(edit->fontMetrics().height() <= room.height());
+    }
+
+    // and buttons are of the sizes that they have without a theme
+    QCOMPARE(parts.apply->size(), QSize(148, 30));
+    QCOMPARE(parts.ok->size(), QSize(70, 30));
+    QCOMPARE(parts.cancel->size(), QSize(70, 30));
 }
 
 QTEST_MAIN(tst_Themes)
