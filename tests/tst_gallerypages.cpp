@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the tarnwidgets developers
 // SPDX-License-Identifier: MIT
 
+#include "support/colordialogparts.h"
 #include "support/functionguard.h"
 #include "support/modaldriver.h"
 
@@ -8,12 +9,15 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDragEnterEvent>
 #include <QFile>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMimeData>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -24,11 +28,13 @@
 #include <QToolButton>
 #include <QTreeWidget>
 #include <appearance.h>
+#include <colorswatch.h>
 #include <mainwindow.h>
 #include <optional>
 #include <page.h>
 #include <sampledialog.h>
 #include <stylesheetpage.h>
+#include <tarnwidgets/colordialog.h>
 #include <tarnwidgets/framelessdialog.h>
 #include <tarnwidgets/framelesshelper.h>
 #include <tarnwidgets/framelessmessagebox.h>
@@ -38,7 +44,10 @@
 #include <unistd.h>
 
 using namespace Gallery;
+using Tarn::Test::clickCell;
+using Tarn::Test::ColorDialogParts;
 using Tarn::Test::ModalDriver;
+using Tarn::Widgets::ColorDialog;
 using Tarn::Widgets::FramelessDialog;
 using Tarn::Widgets::FramelessHelper;
 using Tarn::Widgets::FramelessMessageBox;
@@ -158,6 +167,12 @@ private Q_SLOTS:
     void strictFileDialogHoldsWhatThePlainOneLetsOut();
     void fileDialogReturnsWhatIsChosen_data();
     void fileDialogReturnsWhatIsChosen();
+
+    void chosenColorGoesIntoTheSwatch_data();
+    void chosenColorGoesIntoTheSwatch();
+    void colorDialogBeginsAsTheCodeTells();
+    void colorIsDraggedFromAModelessDialogToTheSwatch();
+    void swatchTakesColorsOnly();
 
     void chosenWidthReachesAllLines();
 
@@ -576,6 +591,99 @@ void tst_GalleryPages::fileDialogReturnsWhatIsChosen()
     QVERIFY(driver.ran());
     QVERIFY(findByText<QLabel>(stage.page.get(), result));
     QVERIFY(!LimitedFileDialog::isStrictByDefault());
+}
+
+void tst_GalleryPages::chosenColorGoesIntoTheSwatch_data()
+{
+    QTest::addColumn<bool>("isAccepted");
+    QTest::addColumn<QString>("result");
+    QTest::newRow("OK") << true << QStringLiteral("Result: #ff0000");
+    QTest::newRow("Cancel") << false << QStringLiteral("Result: an invalid colour");
+}
+
+void tst_GalleryPages::chosenColorGoesIntoTheSwatch()
+{
+    QFETCH(bool, isAccepted);
+    QFETCH(QString, result);
+
+    // GIVEN the page with its colour, which is not red
+    const Stage stage(QStringLiteral("colour-dialog"));
+    const auto *swatch = stage.page->findChild<ColorSwatch *>();
+    const QColor before = swatch->color();
+    QVERIFY(before != QColor(Qt::red));
+    QVERIFY(findByText<QLabel>(stage.page.get(), QStringLiteral("Not opened yet")));
+
+    // WHEN the user chooses red, and accepts or cancels
+    ModalDriver driver([&](QWidget *dialog) {
+        const ColorDialogParts parts(qobject_cast<ColorDialog *>(dialog));
+        QVERIFY(parts.isComplete());
+        QCOMPARE(parts.color(), before);
+        clickCell(parts.standardGrid, 3, 1); // red
+        QCOMPARE(parts.color(), QColor(Qt::red));
+        (isAccepted ? parts.ok : parts.cancel)->click();
+    });
+    stage.click(QStringLiteral("Choose"));
+
+    // THEN the page tells, and keeps what was chosen
+    QVERIFY(driver.ran());
+    QVERIFY(findByText<QLabel>(stage.page.get(), result));
+    QCOMPARE(swatch->color(), isAccepted ? QColor(Qt::red) : before);
+}
+
+void tst_GalleryPages::colorDialogBeginsAsTheCodeTells()
+{
+    const Stage stage(QStringLiteral("colour-dialog"));
+    const auto *code = stage.page->findChild<QPlainTextEdit *>();
+    auto *initialColors = stage.page->findChild<QComboBox *>();
+    QVERIFY(code->toPlainText().contains(stage.page->findChild<ColorSwatch *>()->color().name()));
+    initialColors->setCurrentText(QStringLiteral("Grey"));
+    QVERIFY(code->toPlainText().contains(QColor(Qt::gray).name()));
+
+    ModalDriver driver([&](QWidget *dialog) {
+        QCOMPARE(ColorDialogParts(qobject_cast<ColorDialog *>(dialog)).color(), QColor(Qt::gray));
+        dialog->close();
+    });
+    stage.click(QStringLiteral("Choose"));
+    QVERIFY(driver.ran());
+}
+
+void tst_GalleryPages::colorIsDraggedFromAModelessDialogToTheSwatch()
+{
+    // GIVEN a dialog that stays open beside the page
+    const Stage stage(QStringLiteral("colour-dialog"));
+    stage.click(QStringLiteral("Open modeless"));
+    const QPointer<ColorDialog> dialog = stage.page->findChild<ColorDialog *>();
+    QVERIFY(dialog);
+    QVERIFY(dialog->isVisible() && !dialog->isModal());
+
+    // WHEN the colour of its swatch is dropped on the page's
+    auto *swatch = stage.page->findChild<ColorSwatch *>();
+    QMimeData data;
+    data.setColorData(QColor(1, 2, 3));
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(swatch, &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(swatch, &drop);
+
+    // THEN it is there, and in the code
+    QCOMPARE(swatch->color(), QColor(1, 2, 3));
+    QVERIFY(stage.page->findChild<QPlainTextEdit *>()->toPlainText().contains(QStringLiteral("#010203")));
+    QCOMPARE(swatch->grab().toImage().pixelColor(3, 3), QColor(1, 2, 3));
+
+    // and the dialog goes when it is closed
+    dialog->close();
+    QTRY_VERIFY(!dialog);
+}
+
+void tst_GalleryPages::swatchTakesColorsOnly()
+{
+    ColorSwatch swatch(Qt::red);
+    QMimeData data;
+    data.setText(QStringLiteral("blue"));
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&swatch, &enter);
+    QVERIFY(!enter.isAccepted());
 }
 
 void tst_GalleryPages::chosenWidthReachesAllLines()
