@@ -130,13 +130,13 @@ int main(int argc, char **argv)
     return Tarn::Benchmark::run(
         argc, argv,
         {
-            {"color-life", "the dialog made, shown, painted, closed, destroyed", 0.30,
-             side<Life<ColorDialog>>(), side<Life<QtDialog>>(), nullptr, false, 10},
+            {"color-life", "the dialog made, shown, painted, closed, destroyed", 0.28,
+             side<Life<ColorDialog>>(), side<Life<QtDialog>>(), nullptr, true, 10},
             {"color-pixels", "the pixels of the field", 0.07, side<FieldOfTables>(), side<FieldOfColors>(),
              nullptr, true, 20},
-            {"color-field", "one step of a drag over the field", 0.82, side<Drag<ColorDialog>>(field),
+            {"color-field", "one step of a drag over the field", 0.80, side<Drag<ColorDialog>>(field),
              side<Drag<QtDialog>>(field), nullptr, false, 50},
-            {"color-strip", "one step of a drag on the strip", 0.77, side<Drag<ColorDialog>>(strip),
-             side<Drag<QtDialog>>(strip), nullptr, false, 50},
+            {"color-strip", "one step of a drag on the strip", 0.76, side<Drag<ColorDialog>>(strip),
+             side<Drag<QtDialog>>(strip), nullptr, true, 50},
         });
 }
