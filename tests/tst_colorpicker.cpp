@@ -610,6 +610,11 @@ void tst_ColorPicker::gradientIsThatOfEveryHueAndSaturation()
         QVERIFY2(isRight(hue, 255 - hue / 2), qPrintable(QString::number(hue)));
     for (int sat = 0; sat < 256; sat += 3)
         QVERIFY2(isRight(sat, sat), qPrintable(QString::number(sat)));
+
+    // One of the two changes alone.
+    QVERIFY(isRight(120, 40));
+    QVERIFY(isRight(120, 200));
+    QVERIFY(isRight(300, 200));
 }
 
 void tst_ColorPicker::gradientFollowsTheHeight()
