@@ -98,7 +98,7 @@ bool isColorList(const Line &line)
     return QByteArray::fromPercentEncoding(trimmed(line.content.left(line.equals))) == ColorKey;
 }
 
-/* The items of a value, without quotes and escapes; of a long list only the beginning. */
+/* The first sixteen items of a value, without quotes and escapes. */
 class ItemReader
 {
 public:
@@ -124,7 +124,7 @@ ItemReader::ItemReader(const QByteArray &value)
 {
     bool isQuoted = false;
     skipBlanks();
-    while (m_pos < m_value.size() && m_items.size() <= CustomColorCount) {
+    while (m_pos < m_value.size()) {
         const char character = m_value.at(m_pos++);
         if (character == '\\') {
             readEscape();
@@ -133,6 +133,8 @@ ItemReader::ItemReader(const QByteArray &value)
             if (!isQuoted)
                 skipBlanks();
         } else if (character == ',' && !isQuoted) {
+            if (m_items.size() == CustomColorCount)
+                return;
             m_items.append(QString());
             skipBlanks();
         } else {
@@ -229,14 +231,14 @@ QVector<QRgb> colorsInObject(const QString &object)
     return {value.toUInt()};
 }
 
-/* Up to sixteen. A single item is no list unless it says so. */
+/* A single item is no list unless it says so. */
 QVector<QRgb> colorsIn(const QByteArray &value)
 {
     const QStringList items = ItemReader(value).items();
     if (items.size() == 1)
         return colorsInObject(marked(items.constFirst(), "@Variant"));
     QVector<QRgb> colors;
-    for (const QString &item : items.mid(0, CustomColorCount))
+    for (const QString &item : items)
         colors.append(colorIn(item));
     return colors;
 }
