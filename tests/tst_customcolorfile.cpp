@@ -445,7 +445,7 @@ void tst_CustomColorFile::randomFilesAreTakenAsSettingsTakeThem()
 {
     // The generator's sequence is part of the C++ standard, so the texts are the same everywhere.
     std::minstd_rand random(7);
-    for (int i = 0; i < 400; ++i) {
+    for (int i = 0; i < 200; ++i) {
         // GIVEN any mixture of what such files are made of
         const QByteArray text = randomText(random);
         QVERIFY(putContents(path(), text));
