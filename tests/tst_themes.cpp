@@ -9,6 +9,7 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QDirIterator>
 #include <QFrame>
@@ -336,6 +337,7 @@ private Q_SLOTS:
     void titleButtonsIconCanBeTakenAway();
     void titleBarsHaveTheDocumentedHeights();
     void dialogNeedsTheHeightThatItTells();
+    void bottomButtonsHaveTheDocumentedLeastSizes();
     void colorDialogHasRoomForItsFields_data();
     void colorDialogHasRoomForItsFields();
 
@@ -648,6 +650,25 @@ void tst_Themes::dialogNeedsTheHeightThatItTells()
 
     // THEN all the rest is as high as it says
     QCOMPARE(dialog.sizeHint().height(), 100 + dialog.noCentralHeight());
+}
+
+void tst_Themes::bottomButtonsHaveTheDocumentedLeastSizes()
+{
+    qApp->setStyleSheet(styleSheet(QStringLiteral("light")));
+    FramelessDialog dialog;
+    dialog.show();
+    const auto buttons = dialog.findChildren<QPushButton *>();
+    QVERIFY(!buttons.isEmpty());
+    for (const QPushButton *button : buttons)
+        QCOMPARE(button->minimumSize(), QSize(94, 28));
+
+    FramelessMessageBox box(QMessageBox::Information, QString(), QString(), QMessageBox::Ok);
+    box.setDetailedText(QStringLiteral("details"));
+    box.show();
+    const auto boxButtons = box.findChildren<QDialogButtonBox *>().constFirst()->buttons();
+    QCOMPARE(boxButtons.size(), 2);
+    for (const QAbstractButton *button : boxButtons)
+        QCOMPARE(button->minimumSize(), QSize(60, 28));
 }
 
 void tst_Themes::colorDialogHasRoomForItsFields_data()
