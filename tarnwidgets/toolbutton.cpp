@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 the tarnwidgets developers
+// SPDX-License-Identifier: MIT
+
+#include "toolbutton.h"
+
+#include <QMenu>
+
+namespace Tarn::Widgets {
+
+ToolButton::ToolButton(QWidget *parent)
+    : QToolButton(parent)
+{
+}
+
+ToolButton::~ToolButton() = default;
+
+void ToolButton::setMenu(QMenu *menu)
+{
+    if (QMenu *former = this->menu())
+        disconnect(former, &QMenu::aboutToHide, this, &ToolButton::recover);
+    if (menu)
+        connect(menu, &QMenu::aboutToHide, this, &ToolButton::recover);
+    QToolButton::setMenu(menu);
+}
+
+void ToolButton::recover()
+{
+    setAttribute(Qt::WA_UnderMouse, rect().contains(mapFromGlobal(QCursor::pos())));
+    update();
+}
+
+} // namespace Tarn::Widgets

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 the tarnwidgets developers
+// SPDX-License-Identifier: MIT
+
+#ifndef TARN_WIDGETS_TOOLBUTTON_H
+#define TARN_WIDGETS_TOOLBUTTON_H
+
+#include "tarnwidgets_export.h"
+
+#include <QToolButton>
+
+namespace Tarn::Widgets {
+
+/*!
+ * \brief A tool button that does not go on looking hovered once its menu has closed.
+ *
+ * While a menu is open the button is told nothing of the pointer, so a plain
+ * QToolButton whose menu was closed by a click elsewhere may keep its hover
+ * look. Use this one for buttons with a menu; otherwise it is a QToolButton, and
+ * style sheet rules for QToolButton reach it unchanged.
+ *
+ * \code
+ * auto *button = new ToolButton(toolBar);
+ * button->setPopupMode(QToolButton::InstantPopup);
+ * button->setMenu(menu);
+ * \endcode
+ */
+class TARNWIDGETS_EXPORT ToolButton : public QToolButton
+{
+    Q_OBJECT
+
+public:
+    explicit ToolButton(QWidget *parent = nullptr);
+    ~ToolButton() override;
+
+    /*!
+     * Gives the button \a menu, which stays the caller's; null takes the present
+     * one away.
+     *
+     * \note Hides QToolButton::setMenu(). A menu set through a QToolButton
+     * pointer is shown, but the hover look is not put right after it.
+     */
+    void setMenu(QMenu *menu);
+
+public Q_SLOTS:
+    /*! Takes the button as hovered if the pointer is over it now, whatever lies in between, and as not
+     * hovered otherwise. */
+    void recover();
+};
+
+} // namespace Tarn::Widgets
+
+#endif
