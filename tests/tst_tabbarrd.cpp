@@ -1,0 +1,330 @@
+// SPDX-FileCopyrightText: 2026 the tarnwidgets developers
+// SPDX-License-Identifier: MIT
+
+#include "support/functionguard.h"
+
+#include <QApplication>
+#include <QMetaEnum>
+#include <QPaintEvent>
+#include <QRegion>
+#include <QStyle>
+#include <QTest>
+#include <optional>
+#include <tarnwidgets/tarntabbar.h>
+
+using namespace Tarn::Test;
+using Tarn::Widgets::TabBarRd;
+
+namespace {
+
+class Bar : public TabBarRd
+{
+public:
+    using TabBarRd::TabBarRd;
+    using TabBarRd::tabSizeHint;
+
+    QRegion painted;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        painted += event->region();
+        TabBarRd::paintEvent(event);
+    }
+};
+
+class PlainBar : public QTabBar
+{
+public:
+    using QTabBar::tabSizeHint;
+};
+
+void addTabs(QTabBar *bar, int count)
+{
+    for (int index = 0; index < count; ++index)
+        bar->addTab(QStringLiteral("Tab").repeated(index + 1));
+}
+
+QVector<int> tabWidths(const QTabBar &bar)
+{
+    QVector<int> widths;
+    for (int index = 0; index < bar.count(); ++index)
+        widths.append(bar.tabRect(index).width());
+    return widths;
+}
+
+QVector<int> evenWidths(int width, int count)
+{
+    QVector<int> widths(count, width / count);
+    widths.last() += width - width / count * count;
+    return widths;
+}
+
+} // namespace
+
+class tst_TabBarRd : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_guard.emplace();
+    }
+    void cleanup()
+    {
+        m_guard.reset();
+    }
+
+    void newBarIsNormalWithoutWidths();
+    void typesHaveTheirNumbers();
+    void normalTabsHaveQtsHints();
+    void evenHintIsTheSharedWidthAndTheHeight_data();
+    void evenHintIsTheSharedWidthAndTheHeight();
+    void evenTabsFillTheBarExactly();
+    void evenTabsFollowInsertionAndRemoval();
+    void evenTakesEffectAtOnce_data();
+    void evenTakesEffectAtOnce();
+    void normalTakesEffectAtOnce();
+    void sameTypeAgainChangesNothing();
+    void widthsAreThoseOfTheBar();
+    void negativeWidthIsPassedOn();
+    void resizeRepaintsAll();
+
+private:
+    std::optional<FunctionGuard> m_guard;
+};
+
+void tst_TabBarRd::newBarIsNormalWithoutWidths()
+{
+    QWidget parent;
+    const auto *bar = new TabBarRd(&parent);
+
+    QCOMPARE(bar->parentWidget(), &parent);
+    QCOMPARE(bar->metaObject()->className(), "Tarn::Widgets::TabBarRd");
+    QCOMPARE(bar->metaObject()->superClass(), &QTabBar::staticMetaObject);
+    QCOMPARE(bar->getTabBarType(), TabBarRd::Normal);
+    QCOMPARE(bar->getTabMinWidth(), 0);
+    QCOMPARE(bar->getTabMaxWidth(), 0);
+    QCOMPARE(bar->minimumWidth(), 0);
+    QCOMPARE(bar->maximumWidth(), QWIDGETSIZE_MAX);
+}
+
+void tst_TabBarRd::typesHaveTheirNumbers()
+{
+    QCOMPARE(int(TabBarRd::Normal), 0);
+    QCOMPARE(int(TabBarRd::Even), 1);
+    QCOMPARE(sizeof(TabBarRd::TabBarType), sizeof(int));
+    QCOMPARE(QMetaEnum::fromType<TabBarRd::TabBarType>().keyCount(), 2);
+}
+
+void tst_TabBarRd::normalTabsHaveQtsHints()
+{
+    Bar bar;
+    PlainBar plain;
+    for (QTabBar *each : {static_cast<QTabBar *>(&bar), static_cast<QTabBar *>(&plain)}) {
+        addTabs(each, 5);
+        each->setTabIcon(2, QApplication::style()->standardIcon(QStyle::SP_DirIcon));
+        each->resize(300, 40);
+        each->show();
+    }
+
+    for (int index = 0; index < bar.count(); ++index)
+        QCOMPARE(bar.tabSizeHint(index), plain.tabSizeHint(index));
+    QCOMPARE(tabWidths(bar), tabWidths(plain));
+}
+
+void tst_TabBarRd::evenHintIsTheSharedWidthAndTheHeight_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QSize>("expected");
+    QTest::newRow("divisible, first") << QSize(300, 40) << 3 << 0 << QSize(100, 40);
+    QTest::newRow("divisible, last") << QSize(300, 40) << 3 << 2 << QSize(100, 40);
+    QTest::newRow("one pixel left, first") << QSize(301, 33) << 3 << 0 << QSize(100, 33);
+    QTest::newRow("one pixel left, middle") << QSize(301, 33) << 3 << 1 << QSize(100, 33);
+    QTest::newRow("one pixel left, last") << QSize(301, 33) << 3 << 2 << QSize(101, 33);
+    QTest::newRow("two pixels left, last") << QSize(302, 33) << 3 << 2 << QSize(102, 33);
+    QTest::newRow("less than a pixel each, first") << QSize(2, 33) << 3 << 0 << QSize(0, 33);
+    QTest::newRow("less than a pixel each, last") << QSize(2, 33) << 3 << 2 << QSize(2, 33);
+    QTest::newRow("the only one") << QSize(301, 33) << 1 << 0 << QSize(301, 33);
+    QTest::newRow("none") << QSize(301, 33) << 0 << 0 << QSize(0, 33);
+    QTest::newRow("not there") << QSize(301, 33) << 3 << 7 << QSize(100, 33);
+    QTest::newRow("in front of all") << QSize(301, 33) << 0 << -1 << QSize(0, 33);
+}
+
+void tst_TabBarRd::evenHintIsTheSharedWidthAndTheHeight()
+{
+    QFETCH(QSize, size);
+    QFETCH(int, count);
+    QFETCH(int, index);
+    QFETCH(QSize, expected);
+    Bar bar;
+    addTabs(&bar, count);
+    bar.resize(size);
+
+    bar.setTabBarType(TabBarRd::Even);
+
+    QCOMPARE(bar.tabSizeHint(index), expected);
+}
+
+void tst_TabBarRd::evenTabsFillTheBarExactly()
+{
+    // GIVEN an even bar on the screen
+    Bar bar;
+    bar.setTabBarType(TabBarRd::Even);
+    bar.resize(100, 30);
+    bar.show();
+
+    for (int count = 1; count <= 12; ++count) {
+        bar.addTab(QStringLiteral("Tab %1").arg(count));
+        for (int width = 90; width <= 500; width += 7) {
+            // WHEN it is resized
+            bar.resize(width, 30);
+
+            // THEN its tabs lie side by side, all alike but the last, from end to end
+            QCOMPARE(tabWidths(bar), evenWidths(width, count));
+            int left = 0;
+            for (int index = 0; index < count; ++index) {
+                QCOMPARE(bar.tabRect(index).topLeft(), QPoint(left, 0));
+                QCOMPARE(bar.tabRect(index).height(), 30);
+                left += bar.tabRect(index).width();
+            }
+            QCOMPARE(left, width);
+        }
+    }
+}
+
+void tst_TabBarRd::evenTabsFollowInsertionAndRemoval()
+{
+    Bar bar;
+    bar.setTabBarType(TabBarRd::Even);
+    bar.resize(301, 30);
+    addTabs(&bar, 2);
+    bar.show();
+    QCOMPARE(tabWidths(bar), QVector<int>({150, 151}));
+
+    bar.insertTab(0, QStringLiteral("First"));
+    QCOMPARE(tabWidths(bar), QVector<int>({100, 100, 101}));
+
+    bar.removeTab(2);
+    QCOMPARE(tabWidths(bar), QVector<int>({150, 151}));
+}
+
+void tst_TabBarRd::evenTakesEffectAtOnce_data()
+{
+    QTest::addColumn<bool>("isShown");
+    QTest::newRow("on the screen") << true;
+    QTest::newRow("not yet shown") << false;
+}
+
+void tst_TabBarRd::evenTakesEffectAtOnce()
+{
+    QFETCH(bool, isShown);
+
+    // GIVEN a bar that is laid out
+    Bar bar;
+    addTabs(&bar, 3);
+    bar.resize(301, 30);
+    bar.setVisible(isShown);
+    QVERIFY(tabWidths(bar) != evenWidths(301, 3));
+
+    // WHEN it becomes even
+    bar.setTabBarType(TabBarRd::Even);
+
+    // THEN its tabs are
+    QCOMPARE(bar.getTabBarType(), TabBarRd::Even);
+    QCOMPARE(tabWidths(bar), QVector<int>({100, 100, 101}));
+}
+
+void tst_TabBarRd::normalTakesEffectAtOnce()
+{
+    Bar bar;
+    addTabs(&bar, 3);
+    bar.resize(301, 30);
+    bar.show();
+    const QVector<int> before = tabWidths(bar);
+    bar.setTabBarType(TabBarRd::Even);
+    QVERIFY(tabWidths(bar) != before);
+
+    bar.setTabBarType(TabBarRd::Normal);
+
+    QCOMPARE(tabWidths(bar), before);
+}
+
+void tst_TabBarRd::sameTypeAgainChangesNothing()
+{
+    Bar bar;
+    addTabs(&bar, 3);
+    bar.resize(301, 30);
+    bar.show();
+    bar.setTabBarType(TabBarRd::Even);
+    QApplication::processEvents();
+    bar.painted = QRegion();
+
+    bar.setTabBarType(TabBarRd::Even);
+    QApplication::processEvents();
+
+    QVERIFY(bar.painted.isEmpty());
+    QCOMPARE(tabWidths(bar), QVector<int>({100, 100, 101}));
+}
+
+void tst_TabBarRd::widthsAreThoseOfTheBar()
+{
+    Bar bar;
+    addTabs(&bar, 1);
+
+    bar.setTabMinWidth(150);
+    bar.setTabMaxWidth(250);
+
+    QCOMPARE(bar.getTabMinWidth(), 150);
+    QCOMPARE(bar.getTabMaxWidth(), 250);
+    QCOMPARE(bar.minimumWidth(), 150);
+    QCOMPARE(bar.maximumWidth(), 250);
+    bar.resize(50, 30);
+    QCOMPARE(bar.width(), 150);
+    bar.resize(500, 30);
+    QCOMPARE(bar.width(), 250);
+}
+
+void tst_TabBarRd::negativeWidthIsPassedOn()
+{
+    Bar bar;
+    bar.setTabMinWidth(150);
+    bar.setTabMaxWidth(250);
+
+    m_guard->sentry().expect(QtWarningMsg, QRegularExpression(QStringLiteral("Negative sizes \\(-1,")));
+    bar.setTabMinWidth(-1);
+    m_guard->sentry().expect(QtWarningMsg, QRegularExpression(QStringLiteral("Negative sizes \\(-2,")));
+    bar.setTabMaxWidth(-2);
+
+    QCOMPARE(bar.getTabMinWidth(), -1);
+    QCOMPARE(bar.getTabMaxWidth(), -2);
+    QCOMPARE(bar.minimumWidth(), 0);
+    QCOMPARE(bar.maximumWidth(), 0);
+}
+
+void tst_TabBarRd::resizeRepaintsAll()
+{
+    // GIVEN a bar on the screen of which Qt would repaint only what becomes visible
+    Bar bar;
+    addTabs(&bar, 3);
+    bar.setAttribute(Qt::WA_StaticContents);
+    bar.setAttribute(Qt::WA_OpaquePaintEvent);
+    bar.resize(300, 30);
+    bar.show();
+    QTRY_VERIFY(!bar.painted.isEmpty());
+    QApplication::processEvents();
+    bar.painted = QRegion();
+
+    // WHEN it grows
+    bar.resize(310, 30);
+
+    // THEN all of it is painted
+    QTRY_COMPARE(bar.painted.boundingRect(), bar.rect());
+}
+
+QTEST_MAIN(tst_TabBarRd)
+
+#include "tst_tabbarrd.moc"
