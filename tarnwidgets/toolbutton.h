@@ -13,10 +13,10 @@ namespace Tarn::Widgets {
 /*!
  * \brief A tool button that does not go on looking hovered once its menu has closed.
  *
- * While a menu is open the button is told nothing of the pointer, so a plain
- * QToolButton whose menu was closed by a click elsewhere may keep its hover
- * look. Use this one for buttons with a menu; otherwise it is a QToolButton, and
- * style sheet rules for QToolButton reach it unchanged.
+ * A QToolButton looks hovered until it hears that the pointer has left, and goes
+ * on so if that gets lost while its menu has the mouse. This one asks where the
+ * pointer is when the menu closes. Use it for buttons with a menu; otherwise it
+ * is a QToolButton, and style sheet rules for QToolButton reach it unchanged.
  *
  * \code
  * auto *button = new ToolButton(toolBar);
