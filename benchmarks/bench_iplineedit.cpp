@@ -87,9 +87,9 @@ int main(int argc, char **argv)
 {
     return Tarn::Benchmark::run(argc, argv,
                                 {
-                                    {"address-type", "an address of 12 digits typed", 0.30,
+                                    {"address-type", "an address of 12 digits typed", 0.29,
                                      side<Type<IPLineEdit>>(), side<Type<MaskedEdit>>(), nullptr, false, 20},
-                                    {"address-life", "an editor: made, shown, hidden, destroyed", 1.40,
+                                    {"address-life", "an editor: made, shown, hidden, destroyed", 1.30,
                                      side<Life<IPLineEdit>>(), side<Life<MaskedEdit>>(), nullptr, true, 20},
                                 });
 }

@@ -122,21 +122,21 @@ int main(int argc, char **argv)
     return Tarn::Benchmark::run(
         argc, argv,
         {
-            {"pages-insert-10", "10 pages inserted on show", 0.75, side<InsertShown<TarnTabWidget>>(10),
+            {"pages-insert-10", "10 pages inserted on show", 0.56, side<InsertShown<TarnTabWidget>>(10),
              side<InsertShown<PlainTabs>>(10), nullptr, true, 10},
-            {"pages-insert-100", "100 pages inserted on show", 1.13, side<InsertShown<TarnTabWidget>>(100),
+            {"pages-insert-100", "100 pages inserted on show", 1.12, side<InsertShown<TarnTabWidget>>(100),
              side<InsertShown<PlainTabs>>(100), nullptr, true, 2},
-            {"pages-before-10", "10 pages inserted, then shown", 1.11, side<InsertHidden<TarnTabWidget>>(10),
+            {"pages-before-10", "10 pages inserted, then shown", 1.00, side<InsertHidden<TarnTabWidget>>(10),
              side<InsertHidden<PlainTabs>>(10), nullptr, true, 10},
-            {"pages-before-100", "100 pages inserted, then shown", 1.49,
+            {"pages-before-100", "100 pages inserted, then shown", 1.44,
              side<InsertHidden<TarnTabWidget>>(100), side<InsertHidden<PlainTabs>>(100), nullptr, true, 2},
-            {"pages-before-1000", "1000 pages inserted, then shown", 1.26,
+            {"pages-before-1000", "1000 pages inserted, then shown", 1.24,
              side<InsertHidden<TarnTabWidget>>(1000), side<InsertHidden<PlainTabs>>(1000), nullptr, true, 1},
-            {"pages-switch-10", "one switch among 10 pages", 0.72, side<Switch<TarnTabWidget>>(10),
+            {"pages-switch-10", "one switch among 10 pages", 0.73, side<Switch<TarnTabWidget>>(10),
              side<Switch<PlainTabs>>(10)},
             {"pages-switch-100", "one switch among 100 pages", 0.85, side<Switch<TarnTabWidget>>(100),
              side<Switch<PlainTabs>>(100), nullptr, false, 50},
-            {"pages-switch-1000", "one switch among 1000 pages", 0.97, side<Switch<TarnTabWidget>>(1000),
+            {"pages-switch-1000", "one switch among 1000 pages", 0.98, side<Switch<TarnTabWidget>>(1000),
              side<Switch<PlainTabs>>(1000), nullptr, false, 10},
         });
 }
