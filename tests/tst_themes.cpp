@@ -31,6 +31,7 @@
 #include <QSet>
 #include <QSizeGrip>
 #include <QSpinBox>
+#include <QTabBar>
 #include <QTest>
 #include <QTextEdit>
 #include <QToolButton>
@@ -43,6 +44,7 @@
 #include <tarnwidgets/framelessdialog.h>
 #include <tarnwidgets/framelessmessagebox.h>
 #include <tarnwidgets/framelesswindow.h>
+#include <tarnwidgets/iplineedit.h>
 #include <tarnwidgets/qssloader.h>
 #include <tarnwidgets/titlebar.h>
 
@@ -56,16 +58,16 @@ const QStringList Themes = {QStringLiteral("dark"), QStringLiteral("light")};
 
 // Qt knows these by name. It ignores others without a word, so that a misspelt one would never be noticed.
 const QSet<QString> Subcontrols = {
-    QStringLiteral("add-line"),       QStringLiteral("add-page"),   QStringLiteral("branch"),
-    QStringLiteral("chunk"),          QStringLiteral("corner"),     QStringLiteral("down-arrow"),
-    QStringLiteral("down-button"),    QStringLiteral("drop-down"),  QStringLiteral("groove"),
-    QStringLiteral("handle"),         QStringLiteral("indicator"),  QStringLiteral("item"),
-    QStringLiteral("left-arrow"),     QStringLiteral("menu-arrow"), QStringLiteral("menu-button"),
-    QStringLiteral("menu-indicator"), QStringLiteral("pane"),       QStringLiteral("right-arrow"),
-    QStringLiteral("scroller"),       QStringLiteral("section"),    QStringLiteral("separator"),
-    QStringLiteral("sub-line"),       QStringLiteral("sub-page"),   QStringLiteral("tab"),
-    QStringLiteral("tab-bar"),        QStringLiteral("tear"),       QStringLiteral("title"),
-    QStringLiteral("up-arrow"),       QStringLiteral("up-button")};
+    QStringLiteral("add-line"),    QStringLiteral("add-page"),       QStringLiteral("branch"),
+    QStringLiteral("chunk"),       QStringLiteral("close-button"),   QStringLiteral("corner"),
+    QStringLiteral("down-arrow"),  QStringLiteral("down-button"),    QStringLiteral("drop-down"),
+    QStringLiteral("groove"),      QStringLiteral("handle"),         QStringLiteral("indicator"),
+    QStringLiteral("item"),        QStringLiteral("left-arrow"),     QStringLiteral("menu-arrow"),
+    QStringLiteral("menu-button"), QStringLiteral("menu-indicator"), QStringLiteral("pane"),
+    QStringLiteral("right-arrow"), QStringLiteral("scroller"),       QStringLiteral("section"),
+    QStringLiteral("separator"),   QStringLiteral("sub-line"),       QStringLiteral("sub-page"),
+    QStringLiteral("tab"),         QStringLiteral("tab-bar"),        QStringLiteral("tear"),
+    QStringLiteral("title"),       QStringLiteral("up-arrow"),       QStringLiteral("up-button")};
 const QSet<QString> States = {
     QStringLiteral("checked"), QStringLiteral("default"),    QStringLiteral("disabled"),
     QStringLiteral("enabled"), QStringLiteral("flat"),       QStringLiteral("focus"),
@@ -226,7 +228,7 @@ struct World
         for (QWidget *widget : std::initializer_list<QWidget *>{
                  combo, button, new QLabel, new QToolButton, new QCheckBox, new QRadioButton, new QLineEdit,
                  new QSpinBox, new QPlainTextEdit, new QTextEdit, new QListWidget, new QTreeWidget,
-                 new QGroupBox, new QScrollArea, new QSizeGrip(content)})
+                 new QGroupBox, new QScrollArea, new QSizeGrip(content), new QTabBar, new IPLineEdit})
             layout->addWidget(widget);
         combo->view(); // made on demand
         window.setCentralWidget(content);
