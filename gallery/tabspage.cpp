@@ -1,0 +1,260 @@
+// SPDX-FileCopyrightText: 2026 the tarnwidgets developers
+// SPDX-License-Identifier: MIT
+
+#include "tabspage.h"
+
+#include "parts.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QStyle>
+#include <QToolButton>
+#include <tarnwidgets/tarntabbar.h>
+#include <tarnwidgets/tarntabwidget.h>
+
+using Tarn::Widgets::TabBarRd;
+using Tarn::Widgets::TarnTabBar;
+using Tarn::Widgets::TarnTabWidget;
+
+namespace Gallery {
+
+namespace {
+
+constexpr int FirstPages = 3;
+constexpr int PagesHeight = 150;
+constexpr int LongBar = 2000; // pixels; no bar of the page gets there
+constexpr int FieldContents = 6; // characters
+constexpr int Spacing = 6;
+constexpr int SwitchColumns = 3;
+
+QIcon iconOf(const QWidget *widget)
+{
+    return widget->style()->standardIcon(QStyle::SP_FileIcon);
+}
+
+} // namespace
+
+TabsPage::TabsPage(QWidget *parent)
+    : QWidget(parent)
+{
+    m_report = createNote(tr("Nothing reported yet"));
+    auto *layout = new QGridLayout(this);
+    layout->setContentsMargins(PageMargins);
+    layout->setHorizontalSpacing(16);
+    layout->setVerticalSpacing(8);
+    layout->addWidget(createBar(), 0, 0, 1, 2);
+    layout->addWidget(createPages(), 1, 0, 1, 2);
+    layout->addWidget(m_report, 2, 0, 1, 2);
+    layout->addWidget(createSwitches(), 3, 0, 1, 2);
+    layout->addWidget(createSizes(), 4, 0);
+    layout->addWidget(createActions(), 4, 1);
+    layout->setColumnStretch(0, 1);
+    layout->setColumnStretch(1, 1);
+    layout->setRowStretch(1, 1);
+}
+
+TabsPage::~TabsPage() = default;
+
+Page TabsPage::page()
+{
+    return {QStringLiteral("tabs"),
+            tr("Tabs"),
+            tr("A tab bar that has room for other widgets, by itself and above pages."),
+            [](Appearance *, QWidget *parent) -> QWidget * { return new TabsPage(parent); },
+            {}};
+}
+
+QWidget *TabsPage::createBar()
+{
+    m_bar = new TarnTabBar(this);
+    for (const QString &text : {tr("Pumps"), tr("Tanks"), tr("Valves")})
+        m_bar->addTab(text);
+    m_bar->setCurrentIndex(0);
+    const auto createButton = [this](const QString &text, const QString &toolTip) {
+        auto *button = new QToolButton;
+        button->setText(text);
+        button->setToolTip(toolTip);
+        button->setAutoRaise(true);
+        m_sideWidgets.append(button);
+        return button;
+    };
+    QToolButton *add = createButton(QStringLiteral("+"), tr("Add a tab"));
+    connect(add, &QToolButton::clicked, this,
+            [this] { m_bar->addTab(tr("Tab %1").arg(m_bar->count() + 1)); });
+    m_bar->addLeftWidget(createButton(tr("Left"), tr("Left area")));
+    m_bar->addCenterWidget(add);
+    m_bar->addRightWidget(createButton(tr("Right"), tr("Right area")));
+    m_bar->addRightWidget(createButton(tr("Far right"), tr("Right area")));
+    setSpacing(Spacing);
+    connect(m_bar, &TarnTabBar::currentChanged, this,
+            [this](int index) { report(tr("Bar: currentChanged(%1)").arg(index)); });
+    connect(m_bar, &TarnTabBar::tabCloseRequested, this, [this](int index) {
+        m_bar->removeTab(index);
+        report(tr("Bar: tabCloseRequested(%1)").arg(index));
+    });
+    return m_bar;
+}
+
+QWidget *TabsPage::createPages()
+{
+    m_tabs = new TarnTabWidget(this);
+    m_tabs->setMinimumHeight(PagesHeight);
+    m_tabs->setStackedWidgetColor(Qt::transparent);
+    for (int i = 0; i < FirstPages; ++i)
+        insertPage(-1);
+    m_tabs->setCurrentIndex(0);
+    connect(m_tabs, &TarnTabWidget::currentChanged, this,
+            [this](int index) { report(tr("Pages: currentChanged(%1)").arg(index)); });
+    connect(m_tabs, &TarnTabWidget::tabCloseRequested, this,
+            [this](int index) { report(tr("Pages: tabCloseRequested(%1)").arg(index)); });
+    return m_tabs;
+}
+
+QWidget *TabsPage::createSwitches()
+{
+    auto *group = new QGroupBox(tr("Both bars"), this);
+    auto *layout = new QGridLayout(group);
+    layout->setVerticalSpacing(0);
+    int place = 0;
+    const auto add = [&](const QString &text, bool on, std::function<void(bool)> onToggled) {
+        layout->addWidget(createCheckBox(text, on, std::move(onToggled)), place / SwitchColumns,
+                          place % SwitchColumns, Qt::AlignLeft);
+        ++place;
+    };
+    const auto addForBars = [&](const QString &text, bool on, void (TabBar::*set)(bool)) {
+        add(text, on, [this, set](bool value) { changeBars([=](TabBar *bar) { (bar->*set)(value); }); });
+    };
+    add(tr("Even"), false, [this](bool on) {
+        changeBars([=](TabBar *bar) { bar->setTabBarType(on ? TabBarRd::Even : TabBarRd::Normal); });
+    });
+    addForBars(tr("Closable"), false, &TabBar::setTabsClosable);
+    addForBars(tr("Movable"), false, &TabBar::setMovable);
+    addForBars(tr("Scroll buttons"), m_bar->usesScrollButtons(), &TabBar::setUsesScrollButtons);
+    addForBars(tr("Expanding"), m_bar->expanding(), &TabBar::setExpanding);
+    addForBars(tr("Hide if single"), false, &TabBar::setAutoHide);
+    add(tr("Icons"), false, [this](bool on) { setIconsVisible(on); });
+    add(tr("Current enabled"), true,
+        [this](bool on) { changeBars([=](TabBar *bar) { bar->setTabEnabled(bar->currentIndex(), on); }); });
+    add(tr("Side widgets"), true, [this](bool on) { setSideWidgetsVisible(on); });
+    return group;
+}
+
+QWidget *TabsPage::createSizes()
+{
+    auto *group = new QGroupBox(tr("Sizes and colours"), this);
+    QComboBox *elision = createComboBox();
+    elision->addItem(tr("None"), Qt::ElideNone);
+    elision->addItem(tr("Left"), Qt::ElideLeft);
+    elision->addItem(tr("Middle"), Qt::ElideMiddle);
+    elision->addItem(tr("Right"), Qt::ElideRight);
+    elision->setCurrentIndex(elision->findData(m_bar->elideMode()));
+    connect(elision, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this, elision](int row) {
+        const auto mode = Qt::TextElideMode(elision->itemData(row).toInt());
+        changeBars([=](TabBar *bar) { bar->setElideMode(mode); });
+    });
+    QComboBox *color = createComboBox();
+    color->addItem(tr("Clear"), QColor(Qt::transparent));
+    color->addItem(tr("White"), QColor(Qt::white));
+    color->addItem(tr("Blue"), QColor(0x1b77a3));
+    connect(color, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            [this, color](int row) { m_tabs->setStackedWidgetColor(color->itemData(row).value<QColor>()); });
+    for (QComboBox *box : {elision, color}) {
+        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        box->setMinimumContentsLength(FieldContents);
+    }
+
+    auto *layout = new QGridLayout(group);
+    layout->setColumnStretch(1, 1);
+    addFormRow(layout, tr("Least width"), createPixelBox(0, LongBar, 0, [this](int width) {
+                   changeBars([=](TabBar *bar) { bar->setTabMinWidth(width); });
+               }));
+    addFormRow(layout, tr("Greatest width"), createPixelBox(0, LongBar, LongBar, [this](int width) {
+                   changeBars([=](TabBar *bar) { bar->setTabMaxWidth(width); });
+               }));
+    addFormRow(layout, tr("Spacing"),
+               createPixelBox(0, 40, Spacing, [this](int spacing) { setSpacing(spacing); }));
+    addFormRow(layout, tr("Elision"), elision);
+    addFormRow(layout, tr("Pages"), color);
+    return group;
+}
+
+QWidget *TabsPage::createActions()
+{
+    auto *actions = new QWidget(this);
+    auto *layout = new QGridLayout(actions);
+    layout->setContentsMargins(0, 0, 0, 0);
+    const auto add = [=](int row, int column, const QString &text, std::function<void()> onClicked) {
+        auto *button = new QPushButton(text);
+        connect(button, &QPushButton::clicked, this, std::move(onClicked));
+        layout->addWidget(button, row, column);
+    };
+    auto *name = new QLineEdit;
+    name->setPlaceholderText(tr("Text of the current tab"));
+    connect(name, &QLineEdit::textEdited, this, &TabsPage::renameCurrent);
+    layout->addWidget(name, 0, 0, 1, 2);
+    add(1, 0, tr("Insert first"), [this] { insertPage(0); });
+    add(1, 1, tr("Add"), [this] { insertPage(-1); });
+    add(2, 0, tr("Remove"), [this] { m_tabs->slot_tabCloseRequested(m_tabs->currentIndex()); });
+    add(2, 1, tr("Centre areas"), [this] { m_bar->setRightLeftVCenter(); });
+    layout->setRowStretch(layout->rowCount(), 1);
+    return actions;
+}
+
+void TabsPage::changeBars(const std::function<void(TabBar *)> &change)
+{
+    change(m_bar);
+    change(m_tabs->getTabBar());
+}
+
+void TabsPage::setSideWidgetsVisible(bool visible)
+{
+    for (QWidget *widget : qAsConst(m_sideWidgets))
+        widget->setVisible(visible);
+}
+
+void TabsPage::setSpacing(int spacing)
+{
+    m_bar->setLeftHLayoutSpace(spacing);
+    m_bar->setCenterHLayoutSpace(spacing);
+    m_bar->setRightHLayoutSpace(spacing);
+}
+
+void TabsPage::setIconsVisible(bool visible)
+{
+    changeBars([this, visible](TabBar *bar) {
+        for (int index = 0; index < bar->count(); ++index)
+            bar->setTabIcon(index, visible ? iconOf(this) : QIcon());
+    });
+}
+
+void TabsPage::insertPage(int index)
+{
+    const QString text = tr("Page %1").arg(++m_pagesMade);
+    auto *page = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+    auto *field = new QLineEdit(text);
+    field->setMaximumWidth(160);
+    layout->addWidget(field, 0, Qt::AlignCenter);
+    m_tabs->insertTab(index, page, text);
+}
+
+void TabsPage::renameCurrent(const QString &text)
+{
+    m_tabs->setTabText(m_tabs->currentIndex(), text);
+    const QString toolTip = m_tabs->tabToolTip(m_tabs->currentIndex());
+    report(toolTip.isEmpty() ? tr("The text fits") : tr("Tool tip: %1").arg(toolTip));
+}
+
+void TabsPage::report(const QString &line)
+{
+    m_report->setText(line);
+}
+
+} // namespace Gallery
