@@ -26,7 +26,7 @@ constexpr int Spacing = 4;
 constexpr QSize DotSize(2, 2);
 constexpr QLatin1Char Dot('.');
 
-// Kept: the first number has to begin with 1 or 2, and neither is acceptable by itself.
+// Kept: the first number has to begin with 1 or 2, and only 10 to 19 and 100 to 255 are acceptable.
 QString firstOctetPattern()
 {
     return QStringLiteral("(2[0-5]{2}|2[0-4][0-9]|1+[0-9]{1,2})");
