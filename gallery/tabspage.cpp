@@ -180,6 +180,9 @@ QWidget *TabsPage::createSizes()
                }));
     addFormRow(layout, tr("Spacing"),
                createPixelBox(0, 40, Spacing, [this](int spacing) { setSpacing(spacing); }));
+    addFormRow(layout, tr("Icon size"), createPixelBox(8, 48, m_bar->iconSize().width(), [this](int size) {
+                   changeBars([=](TabBar *bar) { bar->setIconSize(QSize(size, size)); });
+               }));
     addFormRow(layout, tr("Elision"), elision);
     addFormRow(layout, tr("Pages"), color);
     return group;

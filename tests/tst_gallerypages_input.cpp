@@ -364,11 +364,13 @@ void tst_GalleryPages_Input::sizesReachBothBars()
     const Stage stage(QStringLiteral("tabs"));
     stage.field<QSpinBox>(QStringLiteral("Least width"))->setValue(50);
     stage.field<QSpinBox>(QStringLiteral("Greatest width"))->setValue(210);
+    stage.field<QSpinBox>(QStringLiteral("Icon size"))->setValue(33);
     stage.field<QComboBox>(QStringLiteral("Elision"))->setCurrentText(QStringLiteral("Middle"));
     const QList<TarnTabBar *> bars = stage.page->findChildren<TarnTabBar *>();
     for (const TarnTabBar *bar : bars) {
         QCOMPARE(bar->getTabMinWidth(), 50);
         QCOMPARE(bar->getTabMaxWidth(), 210);
+        QCOMPARE(bar->iconSize(), QSize(33, 33));
         QCOMPARE(bar->elideMode(), Qt::ElideMiddle);
     }
 

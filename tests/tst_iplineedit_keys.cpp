@@ -201,6 +201,7 @@ private Q_SLOTS:
     void twelveDigitsDoWhatTheModelDoes();
     void firstNumberBeginsWithOneOrTwo_data();
     void firstNumberBeginsWithOneOrTwo();
+    void fewFirstNumbersAreAcceptable();
     void otherNumbersGoUpTo255_data();
     void otherNumbersGoUpTo255();
     void digitWithoutRoomSelectsTheNextNumber_data();
@@ -357,6 +358,17 @@ void tst_IPLineEditKeys::firstNumberBeginsWithOneOrTwo()
     type(digits);
 
     QCOMPARE(editor.fields[0]->text(), expected);
+}
+
+void tst_IPLineEditKeys::fewFirstNumbersAreAcceptable()
+{
+    const IPLineEdit edit;
+    QLineEdit *first = fieldsOf(edit).constFirst();
+    for (int number = 0; number <= 999; ++number) {
+        first->setText(QString::number(number));
+        const bool isAcceptable = (number >= 10 && number <= 19) || (number >= 100 && number <= 255);
+        QVERIFY2(first->hasAcceptableInput() == isAcceptable, qPrintable(first->text()));
+    }
 }
 
 void tst_IPLineEditKeys::otherNumbersGoUpTo255_data()

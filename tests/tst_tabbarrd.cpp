@@ -4,6 +4,7 @@
 #include "support/functionguard.h"
 
 #include <QApplication>
+#include <QBoxLayout>
 #include <QMetaEnum>
 #include <QPaintEvent>
 #include <QRegion>
@@ -86,6 +87,8 @@ private Q_SLOTS:
     void evenTakesEffectAtOnce_data();
     void evenTakesEffectAtOnce();
     void normalTakesEffectAtOnce();
+    void normalGivesTheWidthBackToALayout();
+    void changeOfTypeRepaintsAll();
     void sameTypeAgainChangesNothing();
     void widthsAreThoseOfTheBar();
     void negativeWidthIsPassedOn();
@@ -305,15 +308,57 @@ void tst_TabBarRd::negativeWidthIsPassedOn()
     QCOMPARE(bar.maximumWidth(), 0);
 }
 
+void tst_TabBarRd::normalGivesTheWidthBackToALayout()
+{
+    // GIVEN an even bar in a layout that is wider than its tabs need
+    QWidget window;
+    auto *bar = new Bar;
+    bar->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    addTabs(bar, 2);
+    auto *layout = new QHBoxLayout(&window);
+    layout->addWidget(bar);
+    layout->addStretch();
+    window.resize(600, 60);
+    window.show();
+    const int natural = bar->width();
+    bar->setTabBarType(TabBarRd::Even);
+    bar->setTabMinWidth(natural + 200);
+    QTRY_COMPARE(bar->width(), natural + 200);
+    bar->setTabMinWidth(0);
+    QApplication::processEvents();
+    QCOMPARE(bar->width(), natural + 200);
+
+    // WHEN it becomes normal, THEN it is as wide as before
+    bar->setTabBarType(TabBarRd::Normal);
+    QTRY_COMPARE(bar->width(), natural);
+}
+
+void tst_TabBarRd::changeOfTypeRepaintsAll()
+{
+    Bar bar;
+    addTabs(&bar, 3);
+    bar.resize(300, 30);
+    bar.show();
+    QTRY_VERIFY(!bar.painted.isEmpty());
+    QApplication::processEvents();
+    bar.painted = QRegion();
+
+    bar.setTabBarType(TabBarRd::Even);
+
+    QTRY_COMPARE(bar.painted.boundingRect(), bar.rect());
+}
+
 void tst_TabBarRd::resizeRepaintsAll()
 {
     // GIVEN a bar on the screen of which Qt would repaint only what becomes visible
-    Bar bar;
+    QWidget window;
+    window.resize(400, 60);
+    Bar bar(&window);
     addTabs(&bar, 3);
     bar.setAttribute(Qt::WA_StaticContents);
     bar.setAttribute(Qt::WA_OpaquePaintEvent);
     bar.resize(300, 30);
-    bar.show();
+    window.show();
     QTRY_VERIFY(!bar.painted.isEmpty());
     QApplication::processEvents();
     bar.painted = QRegion();

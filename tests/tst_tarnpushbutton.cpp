@@ -29,8 +29,15 @@ public:
     using TarnPushButton::TarnPushButton;
 
     int paints = 0;
+    int toolTipChanges = 0;
 
 protected:
+    bool event(QEvent *event) override
+    {
+        toolTipChanges += int(event->type() == QEvent::ToolTipChange);
+        return TarnPushButton::event(event);
+    }
+
     void paintEvent(QPaintEvent *event) override
     {
         ++paints;
@@ -134,6 +141,7 @@ private Q_SLOTS:
     // The text
     void textIsCutToTheHeight_data();
     void textIsCutToTheHeight();
+    void textAsLongAsTheHeightFits();
     void toolTipGoesWithATextThatFits();
     void fullTextStays();
     void setTextDoesNotTouchTheFullText();
@@ -154,6 +162,7 @@ private Q_SLOTS:
     // Paints
     void idleButtonIsNotPainted_data();
     void idleButtonIsNotPainted();
+    void paintingLeavesTheToolTipAlone();
     void everySetterAsksForAPaint_data();
     void everySetterAsksForAPaint();
 
@@ -225,6 +234,21 @@ void tst_TarnPushButton::textIsCutToTheHeight()
         fitting += int(fits);
     }
     QVERIFY(size.height() == 400 ? fitting > 0 : fitting < LongText.size());
+}
+
+void tst_TarnPushButton::textAsLongAsTheHeightFits()
+{
+    for (int length = 1; length <= LongText.size(); ++length) {
+        const QString text = LongText.left(length);
+        TarnPushButton button;
+        const int advance = button.fontMetrics().horizontalAdvance(text);
+        button.resize(28, advance);
+        button.setBtnText(text);
+        QCOMPARE(button.toolTip(), QString());
+        button.resize(28, advance - 1);
+        button.setBtnText(text);
+        QCOMPARE(button.toolTip(), text);
+    }
 }
 
 void tst_TarnPushButton::toolTipGoesWithATextThatFits()
@@ -504,6 +528,24 @@ void tst_TarnPushButton::idleButtonIsNotPainted()
 
 using Setter = void (*)(TarnPushButton *);
 Q_DECLARE_METATYPE(Setter)
+
+// Whoever listens to changes of tool tips would be called at every paint, and might ask for the next.
+void tst_TarnPushButton::paintingLeavesTheToolTipAlone()
+{
+    CountingButton button;
+    button.resize(Narrow);
+    button.isOpenRotation(true);
+    button.setBtnText(LongText);
+    button.show();
+    QTRY_VERIFY(button.paints > 0);
+    QCOMPARE(button.toolTip(), LongText);
+    const int before = button.toolTipChanges;
+    QVERIFY(before > 0);
+
+    button.repaint();
+
+    QCOMPARE(button.toolTipChanges, before);
+}
 
 void tst_TarnPushButton::everySetterAsksForAPaint_data()
 {
