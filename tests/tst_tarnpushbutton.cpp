@@ -156,6 +156,7 @@ private Q_SLOTS:
     void turnedButtonLooksLikeThePlainSteps();
     void textReadsInItsDirection_data();
     void textReadsInItsDirection();
+    void clockwiseIsTheStart();
     void turnedTextIsCentred_data();
     void turnedTextIsCentred();
 
@@ -454,6 +455,20 @@ void tst_TarnPushButton::textReadsInItsDirection()
     }
     QVERIFY(darkestRow >= 0);
     QCOMPARE(darkestRow < image.height() / 2, isClockwise);
+}
+
+void tst_TarnPushButton::clockwiseIsTheStart()
+{
+    TarnPushButton button;
+    setFlatLook(&button);
+    button.resize(40, 120);
+    button.isOpenRotation(true);
+    button.setBtnText(QStringLiteral("|.........."));
+    const QImage start = picture(&button);
+    button.setRotationDirection(false);
+    QVERIFY(picture(&button) != start);
+    button.setRotationDirection(true);
+    QCOMPARE(picture(&button), start);
 }
 
 void tst_TarnPushButton::turnedTextIsCentred_data()
