@@ -31,6 +31,7 @@
 #include <QSet>
 #include <QSizeGrip>
 #include <QSpinBox>
+#include <QStyleOptionFrame>
 #include <QTabBar>
 #include <QTest>
 #include <QTextEdit>
@@ -342,6 +343,7 @@ private Q_SLOTS:
     void bottomButtonsHaveTheDocumentedLeastSizes();
     void colorDialogHasRoomForItsFields_data();
     void colorDialogHasRoomForItsFields();
+    void addressFieldsHaveRoomForThreeDigits();
 
 private:
     static void addStyleSheetRows();
@@ -718,6 +720,31 @@ void tst_Themes::colorDialogHasRoomForItsFields()
     QCOMPARE(parts.apply->size(), QSize(148, 30));
     QCOMPARE(parts.ok->size(), QSize(70, 30));
     QCOMPARE(parts.cancel->size(), QSize(70, 30));
+}
+
+void tst_Themes::addressFieldsHaveRoomForThreeDigits()
+{
+    // GIVEN an editor in the theme that is as narrow as it gets
+    qApp->setStyleSheet(styleSheet(QStringLiteral("dark")));
+    IPLineEdit edit;
+    edit.resize(1, 40);
+    edit.show();
+    QApplication::setActiveWindow(&edit);
+    edit.setIPFocus();
+
+    // THEN each number has room, also that with the focus and its wider border
+    constexpr int LineEditMargins = 2 * 2;
+    const QList<QLineEdit *> fields = edit.findChildren<QLineEdit *>();
+    QCOMPARE(fields.count(), 4);
+    QVERIFY(fields.constFirst()->hasFocus());
+    for (const QLineEdit *field : fields) {
+        QStyleOptionFrame option;
+        option.initFrom(field);
+        const QRect contents = field->style()->subElementRect(QStyle::SE_LineEditContents, &option, field);
+        const int text = field->fontMetrics().horizontalAdvance(QStringLiteral("255"));
+        QVERIFY(contents.width() - LineEditMargins >= text);
+        QVERIFY(contents.width() - LineEditMargins <= 2 * text); // otherwise it is not narrow
+    }
 }
 
 QTEST_MAIN(tst_Themes)
