@@ -103,7 +103,6 @@ private:
         }
         switch (text.size()) {
         case 1:
-            return !isFirst || isDigit(text, 0, '1', '2');
         case 2:
             return !isFirst || isDigit(text, 0, '1', '2');
         case 3:

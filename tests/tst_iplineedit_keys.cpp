@@ -121,10 +121,11 @@ public:
             }
             ++focus;
             isAllSelected = !texts[focus].isEmpty();
-        } else if (digit == QLatin1Char('0') && text.size() == 2 && text.toInt() != 0) {
-            text += digit; // whether it makes a number that is taken or not
-        } else if (isBeginning(text + digit, focus)) {
-            text += digit;
+        } else {
+            // Then a zero is put in whether or not it makes a number that is taken.
+            const bool isInserted = digit == QLatin1Char('0') && text.size() == 2 && text.toInt() != 0;
+            if (isInserted || isBeginning(text + digit, focus))
+                text += digit;
         }
     }
 
