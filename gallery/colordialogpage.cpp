@@ -31,7 +31,8 @@ constexpr QRgb FirstColor = 0xff2b8ad6;
 
 QString codeFor(const QColor &initial)
 {
-    return QStringLiteral("const QColor color = ColorDialog::getColor(QColor(\"%1\"), this);\n"
+    return QStringLiteral("const QColor color =\n"
+                          "    ColorDialog::getColor(QColor(\"%1\"), this);\n"
                           "if (color.isValid())\n"
                           "    m_swatch->setColor(color);")
         .arg(initial.name());
@@ -56,6 +57,8 @@ ColorDialogPage::ColorDialogPage(Appearance *appearance, QWidget *parent)
                        .arg(QCoreApplication::applicationDirPath())));
     choices->addStretch();
 
+    // One for all pictures: a dialog writes the custom colours when it is destroyed.
+    m_model = new ColorDialog(QColor(FirstColor), this);
     m_code = new QPlainTextEdit;
     m_code->setReadOnly(true);
     QFont font(QStringLiteral("monospace"));
@@ -176,8 +179,8 @@ void ColorDialogPage::openModeless()
 void ColorDialogPage::refresh()
 {
     m_code->setPlainText(codeFor(initialColor()));
-    ColorDialog model(initialColor());
-    m_preview->setPicture(model.grab());
+    m_model->setInitColor(initialColor());
+    m_preview->setPicture(m_model->grab());
 }
 
 void ColorDialogPage::showEvent(QShowEvent *event)

@@ -12,6 +12,10 @@ class QComboBox;
 class QLabel;
 class QPlainTextEdit;
 
+namespace Tarn::Widgets {
+class ColorDialog;
+}
+
 namespace Gallery {
 
 class ColorSwatch;
@@ -47,6 +51,7 @@ private:
     PictureView *m_preview = nullptr;
     QLabel *m_outcome = nullptr;
     QPlainTextEdit *m_code = nullptr;
+    Tarn::Widgets::ColorDialog *m_model = nullptr; // for the picture
 };
 
 } // namespace Gallery

@@ -216,6 +216,10 @@ ColorDialog::ColorDialog(QColor initial, QWidget *parent)
 ColorDialog::~ColorDialog()
 {
     customColorFile().write(d->customColors());
+    // The parts die after this. An input method may end an edit then, which must find nobody.
+    const QList<QObject *> parts = findChildren<QObject *>();
+    for (QObject *part : parts)
+        part->disconnect(this);
 }
 
 QColor ColorDialog::getColor(const QColor &initial, QWidget *parent)

@@ -187,7 +187,7 @@ ColorLuminancePicker::ColorLuminancePicker(QWidget *parent)
     : QWidget(parent)
 {
     setWindowFlag(Qt::FramelessWindowHint);
-    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_OpaquePaintEvent, FramelessDialog::m_defaultBackgroundColor.alpha() == 255);
     setFixedWidth(StripWidth);
 }
 
@@ -251,6 +251,16 @@ void ColorLuminancePicker::updateGradient()
     }
 }
 
+/* The gradient reaches across the whole width, and is seen under the arrows through their ground. */
+void ColorLuminancePicker::paintThroughGround(QPainter *painter, const QColor &ground) const
+{
+    const int columns = ArrowDepth + 1;
+    for (const int left : {0, width() - columns}) {
+        painter->drawImage(QRect(left, Offset, columns, m_gradient.height()), m_gradient);
+        painter->fillRect(left, 0, columns, height(), ground);
+    }
+}
+
 void ColorLuminancePicker::paintEvent(QPaintEvent *)
 {
     updateGradient();
@@ -262,10 +272,11 @@ void ColorLuminancePicker::paintEvent(QPaintEvent *)
     const QPoint rightArrow[] = {{right - ArrowDepth, y}, {right, bottom}, {right, top}};
 
     QPainter painter(this);
-    painter.setCompositionMode(QPainter::CompositionMode_Source); // covers, be the colour translucent or not
-    painter.fillRect(rect(), FramelessDialog::m_defaultBackgroundColor);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    const QColor ground = FramelessDialog::m_defaultBackgroundColor;
+    painter.fillRect(rect(), ground);
     painter.drawImage(ArrowDepth + 1, Offset, m_gradient);
+    if (ground.alpha() < 255)
+        paintThroughGround(&painter, ground);
     painter.setPen(Qt::black);
     painter.setBrush(Qt::white);
     painter.drawPolygon(leftArrow, 3);

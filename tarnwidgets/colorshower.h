@@ -81,7 +81,8 @@ public:
     /*! The same with the alpha editor's alpha. */
     QColor currentQColor() const;
 
-    /*! Takes -1 to 359, 0 to 255 and 0 to 255, where hue -1 is that of grey; all else is ignored. */
+    /*! Hue -1 is that of grey, one of 360 or more counts on from 0 and shows as 359. Hues below -1, and
+     * saturations and values outside 0 to 255, are ignored. */
     void setHsv(int hue, int sat, int val);
 
     void showAlpha(bool visible);

@@ -90,6 +90,7 @@ void WellArray::updateCell(int row, int column)
 
 void WellArray::setCurrent(int row, int column)
 {
+    // Kept: a second press on the current cell tells nothing, even if another colour is shown by then.
     if (row == m_currentRow && column == m_currentColumn)
         return;
     if (row < 0 || column < 0)
@@ -223,7 +224,7 @@ void ColorWellArray::paintCellContents(QPainter *painter, int row, int column, c
 
 void ColorWellArray::mousePressEvent(QMouseEvent *event)
 {
-    m_isPressed = true;
+    m_isPressed = true; // first, since whoever hears of the press may delete the dialog
     WellArray::mousePressEvent(event);
 }
 

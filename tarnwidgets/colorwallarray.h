@@ -25,8 +25,8 @@ namespace Tarn::Widgets {
 class WellArray : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(int selectedColumn READ selectedColumn NOTIFY selected)
-    Q_PROPERTY(int selectedRow READ selectedRow NOTIFY selected)
+    Q_PROPERTY(int selectedColumn READ selectedColumn)
+    Q_PROPERTY(int selectedRow READ selectedRow)
 
 public:
     /*! The current cell is (0, 0) at the start, and none is selected. */

@@ -10,6 +10,7 @@
 #include <QSaveFile>
 #include <QVariant>
 #include <algorithm>
+#include <cctype>
 #include <cstring>
 
 namespace Tarn::Widgets {
@@ -53,6 +54,7 @@ struct Line
     Line(const QByteArray &text, int begin);
 
     QByteArray content; // without blanks before it, and comments
+    QByteArray comment; // with the line end, if there is any
     int equals = -1; // in the content
     int end;
 };
@@ -74,9 +76,13 @@ Line::Line(const QByteArray &text, int begin)
         end = character == '\\' ? behindCharacter(text, end + 1) : end + 1;
     }
     content = text.mid(begin, end - begin);
+    const int contentEnd = end;
     while (end < text.size() && !isLineEnd(text.at(end)))
         ++end;
+    const bool hasComment = end > contentEnd;
     end = text.mid(end, 2) == "\r\n" ? end + 2 : qMin(text.size(), end + 1);
+    if (hasComment)
+        comment = text.mid(contentEnd, end - contentEnd);
 }
 
 bool isGroup(const Line &line)
@@ -91,11 +97,29 @@ bool isGeneralGroup(const Line &line)
     return isGroup(line) && name.trimmed().toLower() == "general";
 }
 
+/* A key without its escapes: two digits behind a percent sign, or four behind that and a U. */
+QString keyIn(const QByteArray &text)
+{
+    QString key;
+    for (int pos = 0; pos < text.size();) {
+        const bool isWide = text.mid(pos, 2) == "%U";
+        const int digits = isWide ? 4 : 2;
+        const int begin = pos + (isWide ? 2 : 1);
+        const QByteArray number = text.mid(begin, digits);
+        const bool isEscape = text.at(pos) == '%' && number.size() == digits
+            && std::all_of(number.cbegin(), number.cend(),
+                           [](char digit) { return std::isxdigit(uchar(digit)); });
+        key += isEscape ? QChar(number.toUShort(nullptr, 16)) : QChar(QLatin1Char(text.at(pos)));
+        pos = isEscape ? begin + digits : pos + 1;
+    }
+    return key;
+}
+
 bool isColorList(const Line &line)
 {
     if (line.equals < 0)
         return false;
-    return QByteArray::fromPercentEncoding(trimmed(line.content.left(line.equals))) == ColorKey;
+    return keyIn(trimmed(line.content.left(line.equals))) == QLatin1String(ColorKey);
 }
 
 /* The first sixteen items of a value, without quotes and escapes. */
@@ -243,6 +267,19 @@ QVector<QRgb> colorsIn(const QByteArray &value)
     return colors;
 }
 
+/* One that leads to itself: QSaveFile would put a file in its place. */
+bool isEndlessLink(QString path)
+{
+    constexpr int MostLinks = 40; // as many as Linux follows
+    for (int i = 0; i <= MostLinks; ++i) {
+        const QFileInfo info(path);
+        if (!info.isSymLink())
+            return false;
+        path = info.symLinkTarget();
+    }
+    return true;
+}
+
 } // namespace
 
 CustomColorText::CustomColorText(const QByteArray &text)
@@ -255,11 +292,14 @@ CustomColorText::CustomColorText(const QByteArray &text)
         if (isGroup(line))
             isGeneral = isGeneralGroup(line);
         const QByteArray whole = text.mid(begin, line.end - begin);
-        const bool isOurGroup = begin == mark.size() && isGeneralGroup(line) && !whole.contains(';');
-        if (isGeneral && !isGroup(line) && isColorList(line))
+        const QByteArray header = trimmed(whole).toLower();
+        const bool isOurGroup = begin == mark.size() && (header == "[general]" || header == "[general");
+        if (isGeneral && !isGroup(line) && isColorList(line)) {
             colors = colorsIn(line.content.mid(line.equals + 1));
-        else if (!isOurGroup)
+            rest += line.comment;
+        } else if (!isOurGroup) {
             rest += whole;
+        }
         begin = line.end;
     }
 }
@@ -309,7 +349,7 @@ void CustomColorFile::write(const QRgb *colors) const
     if (!lock.tryLock(LockTimeout))
         return;
     QByteArray text;
-    if (QFile::exists(m_path) && !readText(&text))
+    if (isEndlessLink(m_path) || (QFile::exists(m_path) && !readText(&text)))
         return;
     CustomColorText content(text);
     content.colors = QVector<QRgb>(colors, colors + CustomColorCount);

@@ -157,6 +157,10 @@ private Q_SLOTS:
     void brokenFileMakesNoTrouble();
     void ofTwoDialogsTheOneDestroyedLastWins();
 
+    void editMayEndWhileTheDialogDies_data();
+    void editMayEndWhileTheDialogDies();
+    void greyBeginsOnTheStripAsGrey();
+
 private:
     std::optional<FunctionGuard> m_guard;
 };
@@ -492,6 +496,75 @@ void tst_ColorDialog_use::ofTwoDialogsTheOneDestroyedLastWins()
     QCOMPARE(settings(), settingsWith({1, 0xffffffff, 0xff000022}));
     one.reset();
     QCOMPARE(settings(), settingsWith({1, 0xff000011}));
+}
+
+/* An input method that ends an edit when the focus goes, as those for Chinese do. */
+class CommitOnFocusOut : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::FocusOut) {
+            watched->removeEventFilter(this);
+            QInputMethodEvent commit;
+            commit.setCommitString(text);
+            QCoreApplication::sendEvent(watched, &commit);
+            ++commits;
+        }
+        return false;
+    }
+
+    QString text;
+    int commits = 0;
+};
+
+void tst_ColorDialog_use::editMayEndWhileTheDialogDies_data()
+{
+    QTest::addColumn<bool>("isHtml");
+    QTest::newRow("HTML") << true;
+    QTest::newRow("number") << false;
+}
+
+void tst_ColorDialog_use::editMayEndWhileTheDialogDies()
+{
+    QFETCH(bool, isHtml);
+
+    // GIVEN a dialog in one of whose editors something is being typed
+    auto dialog = std::make_unique<ColorDialog>(Initial);
+    dialog->show();
+    QApplication::setActiveWindow(dialog.get());
+    const ColorDialogParts parts(dialog.get());
+    QWidget *edit = isHtml ? static_cast<QWidget *>(parts.html) : parts.boxes[0];
+    edit->setFocus();
+    QVERIFY(edit->hasFocus());
+    CommitOnFocusOut inputMethod;
+    inputMethod.text = isHtml ? QStringLiteral("f") : QStringLiteral("1");
+    if (isHtml)
+        parts.html->setText(QStringLiteral("#ff"));
+    edit->installEventFilter(&inputMethod);
+
+    // WHEN the dialog is deleted, THEN the text that comes then does no harm
+    dialog.reset();
+    QCOMPARE(inputMethod.commits, 1);
+}
+
+void tst_ColorDialog_use::greyBeginsOnTheStripAsGrey()
+{
+    const QColor picked = colorAfter(
+        [](ColorDialog *, const ColorDialogParts &parts) {
+            QTest::mouseMove(parts.strip, parts.strip->rect().center());
+            QMouseEvent move(QEvent::MouseMove, QPointF(parts.strip->rect().center()), Qt::NoButton,
+                             Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(parts.strip, &move);
+            parts.ok->click();
+        },
+        QColor(100, 100, 100));
+    QVERIFY(picked.isValid());
+    QCOMPARE(picked.red(), picked.green());
+    QCOMPARE(picked.green(), picked.blue());
+    QVERIFY(picked.red() != 100);
 }
 
 QTEST_MAIN(tst_ColorDialog_use)

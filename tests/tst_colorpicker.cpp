@@ -171,7 +171,7 @@ private Q_SLOTS:
     void gradientIsThatOfEveryHueAndSaturation();
     void gradientFollowsTheHeight();
     void groundIsTheDialogsAtEveryPaint();
-    void translucentGroundReplacesWhatWasThere();
+    void translucentGroundLetsShowWhatIsBelow();
     void stripMapsRowsAndValues_data();
     void stripMapsRowsAndValues();
     void pressOnTheStripPicksNothing();
@@ -634,11 +634,30 @@ void tst_ColorPicker::groundIsTheDialogsAtEveryPaint()
     QCOMPARE(rendered(strip.get()), expectedStrip(strip->size(), 100, 100, 100, QColor(240, 241, 242)));
 }
 
-void tst_ColorPicker::translucentGroundReplacesWhatWasThere()
+void tst_ColorPicker::translucentGroundLetsShowWhatIsBelow()
 {
-    const std::unique_ptr<ColorLuminancePicker> strip(createStrip());
+    const std::unique_ptr<ColorLuminancePicker> opaque(createStrip());
+    const QColor gradient = rendered(opaque.get()).pixelColor(20, 60);
+    const auto through = [](const QColor &below) {
+        QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
+        image.fill(below);
+        QPainter painter(&image);
+        painter.fillRect(image.rect(), FramelessDialog::m_defaultBackgroundColor);
+        painter.end();
+        return image.pixelColor(0, 0);
+    };
+
+    // THEN the ground is on what was there, twice beside the gradient, and once on the gradient under the
+    // arrows
     FramelessDialog::m_defaultBackgroundColor = QColor(0, 0, 0, 100);
-    QCOMPARE(rendered(strip.get(), Qt::red).pixelColor(20, 3), QColor(0, 0, 0, 100));
+    const std::unique_ptr<ColorLuminancePicker> strip(createStrip());
+    QVERIFY(!strip->testAttribute(Qt::WA_OpaquePaintEvent));
+    const QImage picture = rendered(strip.get(), Qt::red);
+    QCOMPARE(picture.pixelColor(20, 3), through(Qt::red));
+    QCOMPARE(picture.pixelColor(3, 3), through(through(Qt::red)));
+    QCOMPARE(picture.pixelColor(20, 60), gradient);
+    QCOMPARE(picture.pixelColor(3, 60), through(gradient));
+    QCOMPARE(picture.pixelColor(StripWidth - 4, 60), through(gradient));
 }
 
 void tst_ColorPicker::stripMapsRowsAndValues_data()

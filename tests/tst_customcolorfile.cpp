@@ -104,6 +104,7 @@ QByteArray randomText(std::minstd_rand &random)
                                           "customColor=1, 2",
                                           "customColor=",
                                           "%63ustomColor",
+                                          "%U0063ustomColor=1, 2",
                                           "%",
                                           "=",
                                           "=",
@@ -342,6 +343,9 @@ void tst_CustomColorFile::fileIsReadAsSettingsAreRead_data()
     row("our key behind a quote in a comment", general + "; \"\ncustomColor=1, 2 ; \"\n", beginning({1, 2}));
     row("list over two lines", general + "customColor=1, \\\n2\n", beginning({1, 2}));
     row("escaped key", general + "%63ustomColor=1, 2\n", beginning({1, 2}));
+    row("widely escaped key", general + "%U0063ustomColor=1, 2\n", beginning({1, 2}));
+    row("no wide escape", general + "%u0063ustomColor=1, 2\n", untouched);
+    row("half an escape", general + "%6ustomColor=1, 2\n", untouched);
     row("escaped numbers", general + "customColor=\\x31\\x46, \\062, \\x32\n", beginning({0, 2, 2}));
     row("group line with more behind it", "[B]\nb=1\n[ General ] x ; y\ncustomColor=1, 2\n",
         beginning({1, 2}));
@@ -581,6 +585,9 @@ void tst_CustomColorFile::textOfOthersStaysByteByByte_data()
     row("our key behind a backslash", "a=1\\\n" + own, "a=1\\\n" + own);
     row("our list over two lines", general + "customColor=1, \\\n2\na=1\n", "a=1\n");
     row("our key escaped", general + "%63ustomColor=1, 2\na=1\n", "a=1\n");
+    row("our key escaped widely", general + "%U0063ustomColor=1, 2\na=1\n", "a=1\n");
+    row("something behind the group", "[General] a=1\nb=2\n", "[General] a=1\nb=2\n");
+    row("a comment behind our list", general + "customColor=1, 2 ; kept\na=1\n", "; kept\na=1\n");
     row("a comment behind the group", "[General] ; a\n" + own, "[General] ; a\n");
     row("empty lines", general + "\n\n" + own + "\n", "\n\n\n");
 }
@@ -741,6 +748,7 @@ void tst_CustomColorFile::whatIsNoPlainFileIsLeftAlone_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::newRow("directory") << QStringLiteral("directory");
+    QTest::newRow("link to itself") << QStringLiteral("link to itself");
     QTest::newRow("pipe that nobody writes to") << QStringLiteral("pipe");
     QTest::newRow("link to a device without end") << QStringLiteral("device");
 }
@@ -752,6 +760,8 @@ void tst_CustomColorFile::whatIsNoPlainFileIsLeftAlone()
         QVERIFY(QDir().mkdir(path()));
     else if (kind == QLatin1String("pipe"))
         QCOMPARE(mkfifo(qPrintable(path()), 0600), 0);
+    else if (kind == QLatin1String("link to itself"))
+        QVERIFY(QFile::link(path(), path()));
     else
         QVERIFY(QFile::link(QStringLiteral("/dev/zero"), path()));
     struct stat before;
