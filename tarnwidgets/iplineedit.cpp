@@ -309,6 +309,7 @@ IPLineEdit::~IPLineEdit()
 void IPLineEdit::createWidgets()
 {
     setObjectName(QStringLiteral("ipLineEdit"));
+    setLayoutDirection(Qt::LeftToRight); // an address reads from left to right in every language
     auto *row = new QHBoxLayout(this);
     row->setSpacing(Spacing);
     row->setContentsMargins(0, 0, 0, 0);

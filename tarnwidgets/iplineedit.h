@@ -28,7 +28,7 @@ class IPLineEditPrivate;
  *
  * The widget is a read-only line edit that paints nothing. It owns four
  * QLineEdit children for the numbers and three QFrame children for the dots;
- * all that is seen is theirs.
+ * all that is seen is theirs. They stand from left to right in every language.
  *
  * Style selectors: object name ipLineEdit on the widget; object name and dynamic
  * property ipLineEditDot (true) on the dots, which have no frame: without a

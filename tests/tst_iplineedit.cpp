@@ -163,6 +163,7 @@ private Q_SLOTS:
     void fieldsAreSetUpForNumbers();
     void dotsStandBetweenTheFields();
     void dotsLieAtTheBottom();
+    void addressReadsFromLeftToRightInEveryLanguage();
     void editorItselfPaintsNothing();
     void dotsShowByTheirSelector();
 
@@ -324,6 +325,29 @@ void tst_IPLineEdit::dotsLieAtTheBottom()
         QCOMPARE(fields[index + 1]->geometry().left() - dot.right() - 1, 4);
         QCOMPARE(fields[index]->height(), edit.height());
     }
+}
+
+void tst_IPLineEdit::addressReadsFromLeftToRightInEveryLanguage()
+{
+    // GIVEN an editor in a window whose language reads from right to left
+    QWidget window;
+    window.setLayoutDirection(Qt::RightToLeft);
+    auto *layout = new QVBoxLayout(&window);
+    auto *edit = new IPLineEdit;
+    layout->addWidget(edit);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    const QVector<QLineEdit *> fields = fieldsOf(*edit);
+    QCOMPARE(fields.size(), FieldCount);
+
+    // THEN its first number is the leftmost all the same
+    for (int index = 1; index < FieldCount; ++index)
+        QVERIFY(fields[index - 1]->geometry().right() < fields[index]->geometry().left());
+
+    // and Right leads to the field at the right
+    edit->setIPFocus();
+    QTest::keyClick(fields[0], Qt::Key_Right);
+    QCOMPARE(QApplication::focusWidget(), fields[1]);
 }
 
 void tst_IPLineEdit::editorItselfPaintsNothing()
