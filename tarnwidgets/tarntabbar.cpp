@@ -77,6 +77,12 @@ QSize TabBarRd::tabSizeHint(int index) const
     return QSize(width() / tabs + remainder, height());
 }
 
+// Of itself this is tabSizeHint(), and a bar without scroll buttons could then never get narrower than it is.
+QSize TabBarRd::minimumTabSizeHint(int index) const
+{
+    return d->m_type == Even ? QSize(0, height()) : QTabBar::minimumTabSizeHint(index);
+}
+
 void TabBarRd::resizeEvent(QResizeEvent *event)
 {
     QTabBar::resizeEvent(event);

@@ -64,6 +64,7 @@ public:
 
 protected:
     QSize tabSizeHint(int index) const override;
+    QSize minimumTabSizeHint(int index) const override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:

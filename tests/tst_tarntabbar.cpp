@@ -227,6 +227,8 @@ private Q_SLOTS:
     void evenBarTakesTheFreeWidth_data();
     void evenBarTakesTheFreeWidth();
     void evenLeavesRoomForTheAreas();
+    void evenBarGetsNarrowerAgain_data();
+    void evenBarGetsNarrowerAgain();
     void normalAfterEvenLeavesTheBarWide();
     void widthsArePassedOn();
     void negativeMaximumIsIgnoredAndMinimumPassedOn();
@@ -680,6 +682,39 @@ void tst_TarnTabBar::evenLeavesRoomForTheAreas()
     frame.setTabBarType(TabBarRd::Even);
 
     QCOMPARE(frame.getTabBar()->geometry(), QRect(20, 0, 301, 40));
+}
+
+void tst_TarnTabBar::evenBarGetsNarrowerAgain_data()
+{
+    QTest::addColumn<bool>("scrolls");
+    QTest::newRow("with scroll buttons") << true;
+    QTest::newRow("without scroll buttons") << false;
+}
+
+void tst_TarnTabBar::evenBarGetsNarrowerAgain()
+{
+    QFETCH(bool, scrolls);
+
+    // GIVEN an even bar that was wide when a text changed
+    TarnTabBar frame(nullptr);
+    frame.setUsesScrollButtons(scrolls);
+    frame.setTabBarType(TabBarRd::Even);
+    for (int index = 0; index < 3; ++index)
+        frame.addTab(QStringLiteral("Tab"));
+    frame.show();
+    frame.resize(600, 40);
+    QCOMPARE(frame.getTabBar()->width(), 600);
+    frame.setTabText(0, QStringLiteral("Another text"));
+    frame.layout()->activate();
+
+    // WHEN it gets narrower
+    frame.resize(301, 40);
+
+    // THEN it is, and the tabs share what is left
+    QCOMPARE(frame.width(), 301);
+    QCOMPARE(frame.getTabBar()->width(), 301);
+    for (int index = 0; index < 3; ++index)
+        QCOMPARE(frame.tabRect(index).width(), index == 2 ? 101 : 100);
 }
 
 void tst_TarnTabBar::normalAfterEvenLeavesTheBarWide()

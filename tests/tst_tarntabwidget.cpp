@@ -215,6 +215,7 @@ private Q_SLOTS:
     void toolTipGoesWithATextThatFits();
     void widthThatCountsIsTheOneBefore();
     void barIsNoWiderThanTheWidget();
+    void widgetWithEvenTabsGetsNarrowerAgain();
     void tabOperationsAreTheBars();
 
 private:
@@ -1034,6 +1035,27 @@ void tst_TarnTabWidget::barIsNoWiderThanTheWidget()
         QCOMPARE(tabs.widget.getTabBar()->getTabBar()->maximumWidth(), width);
         QTRY_COMPARE(tabs.widget.getTabBar()->getTabBar()->width(), width);
     }
+}
+
+void tst_TarnTabWidget::widgetWithEvenTabsGetsNarrowerAgain()
+{
+    // GIVEN even tabs without scroll buttons in a widget that was wide when a text changed
+    Tabs tabs(3);
+    tabs.widget.setUsesScrollButtons(false);
+    tabs.widget.setTabBarType(TabBarRd::Even);
+    tabs.widget.setTabText(0, QStringLiteral("Another text"));
+    tabs.widget.getTabBar()->layout()->activate();
+    tabs.widget.layout()->activate();
+    QCOMPARE(tabs.widget.getTabBar()->getTabBar()->width(), 600);
+
+    // WHEN it gets narrower
+    tabs.widget.resize(300, 200);
+
+    // THEN the tabs do, too
+    QCOMPARE(tabs.widget.width(), 300);
+    QCOMPARE(tabs.widget.getTabBar()->getTabBar()->width(), 300);
+    for (int index = 0; index < 3; ++index)
+        QCOMPARE(tabs.widget.getTabBar()->tabRect(index).width(), 100);
 }
 
 void tst_TarnTabWidget::tabOperationsAreTheBars()
