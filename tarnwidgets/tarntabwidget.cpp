@@ -89,7 +89,12 @@ void TarnTabWidget::connectFun()
 
     connect(d->m_pTabBar->getTabBar(), &QTabBar::tabMoved, this,
             [this](int from, int to) { d->followTab(from, to); });
-    connect(d->m_pStack, &QStackedWidget::widgetRemoved, d->m_pTabBar, &TarnTabBar::removeTab);
+    // While a tab is dragged the bar keeps its current index, and the page on show has to be that one.
+    connect(d->m_pStack, &QStackedWidget::widgetRemoved, d->m_pTabBar,
+            [bar = d->m_pTabBar, stack = d->m_pStack](int index) {
+                bar->removeTab(index);
+                stack->setCurrentIndex(bar->currentIndex());
+            });
 }
 
 TarnTabBar *TarnTabWidget::getTabBar() const

@@ -64,7 +64,13 @@ public:
     int addTab(QWidget *page, const QString &text);
     int addTab(QWidget *page, const QIcon &icon, const QString &text);
 
-    /*! Takes tab and page away, be it the last one. The page is hidden, not deleted. */
+    /*!
+     * Takes tab and page away, be it the last one. The page is hidden, not deleted.
+     *
+     * \note While the user drags a tab, removing that one, or another when it is the
+     * last, does what it does to a QTabWidget: there may be no current tab until
+     * one is chosen.
+     */
     void removeTab(int index);
 
     int count() const;

@@ -190,6 +190,8 @@ private Q_SLOTS:
     void draggedTabTakesItsPageAlong();
     void draggedPageStaysOnShowAndKeepsTheFocus();
     void setCurrentIndexWhileDraggingKeepsStep();
+    void removalWhileDraggingKeepsStep_data();
+    void removalWhileDraggingKeepsStep();
     void everyMoveKeepsStep();
     void anyMixtureOfChangesKeepsStep();
 
@@ -708,6 +710,43 @@ void tst_TarnTabWidget::setCurrentIndexWhileDraggingKeepsStep()
     QCOMPARE(tabs.widget.currentIndex(), current);
     QVERIFY(tabs.areInStep());
     QTest::mouseRelease(bar, Qt::LeftButton, Qt::NoModifier, start + QPoint(30, 0));
+}
+
+void tst_TarnTabWidget::removalWhileDraggingKeepsStep_data()
+{
+    QTest::addColumn<int>("removed"); // the third of five tabs is the one that is dragged
+    QTest::newRow("of the first tab") << 0;
+    QTest::newRow("of the tab that makes way") << 1;
+    QTest::newRow("of the tab behind it") << 3;
+    QTest::newRow("of the last tab") << 4;
+}
+
+void tst_TarnTabWidget::removalWhileDraggingKeepsStep()
+{
+    QFETCH(int, removed);
+
+    // GIVEN a tab that is being dragged and has just passed another one, which is still on its way
+    Tabs tabs(5);
+    tabs.widget.setMovable(true);
+    QTabBar *bar = tabs.widget.getTabBar()->getTabBar();
+    const QPoint start = bar->tabRect(1).center();
+    const QPoint end = bar->tabRect(2).center();
+    QTest::mousePress(bar, Qt::LeftButton, Qt::NoModifier, start);
+    for (const QPoint &pos : {(start + end) / 2, end}) {
+        QMouseEvent move(QEvent::MouseMove, pos, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(bar, &move);
+    }
+    QCOMPARE(tabs.names(), QStringLiteral("ACBDE"));
+    QCOMPARE(tabs.widget.currentIndex(), 2);
+
+    // WHEN another one is removed
+    tabs.widget.removeTab(removed);
+
+    // THEN the page on show is that of the tab that is selected, now and after the drag
+    QCOMPARE(tabs.names(), QStringLiteral("ACBDE").remove(removed, 1));
+    QVERIFY(tabs.areInStep());
+    QTest::mouseRelease(bar, Qt::LeftButton, Qt::NoModifier, end);
+    QVERIFY(tabs.areInStep());
 }
 
 void tst_TarnTabWidget::everyMoveKeepsStep()
