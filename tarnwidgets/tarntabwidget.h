@@ -51,7 +51,13 @@ public:
     explicit TarnTabWidget(QWidget *parent = nullptr);
     ~TarnTabWidget() override;
 
-    /*! Both are owned by the widget. */
+    /*!
+     * Both are owned by the widget.
+     *
+     * \note Pages must not be deleted or removed in a slot on the stack's own
+     * currentChanged(): during a removal it comes before the page's tab is taken
+     * away, and the wrong tab would follow.
+     */
     TarnTabBar *getTabBar() const;
     QStackedWidget *getStackWidget() const;
 
