@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the tarnwidgets developers
 // SPDX-License-Identifier: MIT
 
+#include "support/addressform.h"
 #include "support/functionguard.h"
 
 #include <QApplication>
@@ -16,14 +17,6 @@ using namespace Tarn::Test;
 using Tarn::Widgets::IPLineEdit;
 
 namespace {
-
-constexpr int FieldCount = 4;
-
-QVector<QLineEdit *> fieldsOf(const IPLineEdit &edit)
-{
-    const QList<QLineEdit *> fields = edit.findChildren<QLineEdit *>(QString(), Qt::FindDirectChildrenOnly);
-    return fields.toVector();
-}
 
 /* An editor on the screen, in a window that has the keyboard. */
 struct Editor
