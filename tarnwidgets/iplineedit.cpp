@@ -94,8 +94,8 @@ public:
     void enterAtEnd(int index) const;
 
     bool filterKey(int index, const QKeyEvent *event);
-    void filterDigit(int index, int key) const;
-    void insertZero(QLineEdit *field) const;
+    void filterDigit(int index, int key);
+    void insertZero(QLineEdit *field);
     bool filterClipboardKey(const QLineEdit *field, const QKeyEvent *event);
 
     void pasteAddress();
@@ -186,7 +186,7 @@ bool IPLineEditPrivate::filterKey(int index, const QKeyEvent *event)
 
 // Kept: the digit that finds no room goes to the field that was left, which refuses it, and not into the next
 // one.
-void IPLineEditPrivate::filterDigit(int index, int key) const
+void IPLineEditPrivate::filterDigit(int index, int key)
 {
     QLineEdit *field = m_fields[index];
     const QString text = field->text();
@@ -203,14 +203,16 @@ void IPLineEditPrivate::filterDigit(int index, int key) const
 }
 
 // Kept: the validator is not asked, so that 10 becomes 010 when a zero is typed in front of it.
-void IPLineEditPrivate::insertZero(QLineEdit *field) const
+void IPLineEditPrivate::insertZero(QLineEdit *field)
 {
     if (field->isReadOnly())
         return;
     const int cursor = field->cursorPosition();
-    field->setText(field->text().insert(cursor, QLatin1Char('0')));
-    field->setModified(true);
-    field->setCursorPosition(cursor + 1);
+    changeAtOnce([field, cursor] {
+        field->setText(field->text().insert(cursor, QLatin1Char('0')));
+        field->setModified(true);
+        field->setCursorPosition(cursor + 1);
+    });
 }
 
 bool IPLineEditPrivate::filterClipboardKey(const QLineEdit *field, const QKeyEvent *event)

@@ -537,9 +537,13 @@ void tst_IPLineEditKeys::insertedZeroIsAnEdit()
     editor.fill({QStringLiteral("10"), QStringLiteral("1"), QStringLiteral("1"), QStringLiteral("1")});
     editor.enter(0);
     QVERIFY(!editor.fields[0]->isModified());
+    bool wasModifiedInSlot = false;
+    connect(&editor.edit, &IPLineEdit::addressChanged, this,
+            [&] { wasModifiedInSlot = editor.fields[0]->isModified(); });
 
     press(Qt::Key_0);
 
+    QVERIFY(wasModifiedInSlot);
     QCOMPARE(editor.edit.text(), QStringLiteral("100.1.1.1"));
     QVERIFY(editor.edit.isModified());
 }
