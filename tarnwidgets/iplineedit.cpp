@@ -99,6 +99,7 @@ public:
     bool filterClipboardKey(const QLineEdit *field, const QKeyEvent *event);
 
     void pasteAddress();
+    bool hasAddressMenu(int index) const;
     void showContextMenu(QLineEdit *field, const QPoint &globalPos);
 
     void fill(const QStringList &parts) const;
@@ -241,6 +242,11 @@ void IPLineEditPrivate::pasteAddress()
             field->setModified(true);
     });
     enterAtEnd(FieldCount - 1);
+}
+
+bool IPLineEditPrivate::hasAddressMenu(int index) const
+{
+    return m_bAcceptsAnyAddress && m_fields[index]->contextMenuPolicy() == Qt::DefaultContextMenu;
 }
 
 void IPLineEditPrivate::showContextMenu(QLineEdit *field, const QPoint &globalPos)
@@ -430,7 +436,7 @@ bool IPLineEdit::eventFilter(QObject *watched, QEvent *event)
     const int index = d->indexOf(watched);
     if (type == QEvent::KeyPress && index >= 0)
         return d->filterKey(index, static_cast<QKeyEvent *>(event));
-    if (type == QEvent::ContextMenu && index >= 0 && d->m_bAcceptsAnyAddress) {
+    if (type == QEvent::ContextMenu && index >= 0 && d->hasAddressMenu(index)) {
         d->showContextMenu(d->m_fields[index], static_cast<QContextMenuEvent *>(event)->globalPos());
         return true;
     }

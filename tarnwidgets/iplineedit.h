@@ -52,7 +52,8 @@ class TARNWIDGETS_EXPORT IPLineEdit : public QLineEdit
      * It also lets the user copy and paste whole addresses: the keys for Paste
      * replace all four numbers when the clipboard holds an address, those for
      * Copy take the whole address unless a part of a number is selected, and the
-     * fields' context menu has an entry for each.
+     * fields' context menu has an entry for each, unless another
+     * contextMenuPolicy is set on them.
      *
      * \note IPLineEdit::setProperty() is for the fields and does not set it.
      */

@@ -11,8 +11,9 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
+#include <QRegExpValidator>
+#include <QSignalSpy>
 #include <QTest>
-#include <QValidator>
 #include <memory>
 #include <optional>
 #include <tarnwidgets/iplineedit.h>
@@ -71,6 +72,8 @@ private Q_SLOTS:
     void incompleteAddressIsNotCopied();
     void contextMenuHasTheWholeAddress();
     void contextMenuDisablesWhatIsOfNoUse();
+    void contextMenuPolicyOfAFieldIsKept_data();
+    void contextMenuPolicyOfAFieldIsKept();
     void withoutAnyAddressTheClipboardIsTheFields();
     void withoutAnyAddressTheContextMenuIsTheFields();
 
@@ -316,6 +319,33 @@ void tst_IPLineEditAnyAddress::contextMenuDisablesWhatIsOfNoUse()
 
     menu->close();
     QTRY_VERIFY(menu.isNull());
+}
+
+void tst_IPLineEditAnyAddress::contextMenuPolicyOfAFieldIsKept_data()
+{
+    QTest::addColumn<Qt::ContextMenuPolicy>("policy");
+    QTest::addColumn<int>("requests");
+    QTest::newRow("a menu of the application's") << Qt::CustomContextMenu << 1;
+    QTest::newRow("no menu") << Qt::PreventContextMenu << 0;
+}
+
+void tst_IPLineEditAnyAddress::contextMenuPolicyOfAFieldIsKept()
+{
+    QFETCH(Qt::ContextMenuPolicy, policy);
+    QFETCH(int, requests);
+    AddressForm form;
+    QVERIFY(form.isReady());
+    form.edit->setAcceptsAnyAddress(true);
+    form.fields[2]->setContextMenuPolicy(policy);
+    QSignalSpy custom(form.fields[2], &QWidget::customContextMenuRequested);
+
+    const QPointer<QMenu> menu = openContextMenu(form.fields[2]);
+    const bool isShown = !menu.isNull();
+    if (isShown)
+        menu->close();
+
+    QVERIFY(!isShown);
+    QCOMPARE(custom.count(), requests);
 }
 
 void tst_IPLineEditAnyAddress::withoutAnyAddressTheClipboardIsTheFields()
