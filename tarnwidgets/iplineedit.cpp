@@ -349,7 +349,8 @@ void IPLineEdit::setAcceptsAnyAddress(bool on)
     d->m_bAcceptsAnyAddress = on;
     const QValidator *former = d->m_fields[0]->validator();
     d->m_fields[0]->setValidator(d->createValidator(0));
-    delete former;
+    if (former && former->parent() == this)
+        delete former; // otherwise it is the application's
 }
 
 bool IPLineEdit::acceptsAnyAddress() const

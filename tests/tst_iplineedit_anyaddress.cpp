@@ -11,9 +11,9 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
-#include <QRegExpValidator>
 #include <QSignalSpy>
 #include <QTest>
+#include <QValidator>
 #include <memory>
 #include <optional>
 #include <tarnwidgets/iplineedit.h>
@@ -62,6 +62,7 @@ private Q_SLOTS:
     void anyAddressTakesEveryAddressAndNothingElse_data();
     void anyAddressTakesEveryAddressAndNothingElse();
     void anyAddressCanBeTurnedOffAgain();
+    void validatorOfTheApplicationIsNotDeleted();
     void wholeAddressIsPasted_data();
     void wholeAddressIsPasted();
     void pastedAddressIsAnEdit();
@@ -149,6 +150,27 @@ void tst_IPLineEditAnyAddress::anyAddressCanBeTurnedOffAgain()
     QVERIFY(!form.edit->isTextValid(QStringLiteral("8.8.8.8")));
     QCOMPARE(form.edit->findChildren<QValidator *>().size(), validators);
     QCOMPARE(validators, FieldCount);
+}
+
+void tst_IPLineEditAnyAddress::validatorOfTheApplicationIsNotDeleted()
+{
+    // GIVEN a validator that the application shares between the first field and something else
+    IPLineEdit edit;
+    QObject owner;
+    const QPointer<QValidator> validator = new QIntValidator(&owner);
+    fieldsOf(edit).constFirst()->setValidator(validator);
+
+    // WHEN the editor sets its own again
+    edit.setAcceptsAnyAddress(true);
+
+    // THEN it is there still
+    QVERIFY(validator);
+    QVERIFY(fieldsOf(edit).constFirst()->validator() != validator);
+
+    // and a field without one is no matter
+    fieldsOf(edit).constFirst()->setValidator(nullptr);
+    edit.setAcceptsAnyAddress(false);
+    QVERIFY(fieldsOf(edit).constFirst()->validator());
 }
 
 void tst_IPLineEditAnyAddress::wholeAddressIsPasted_data()
