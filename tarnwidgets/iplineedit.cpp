@@ -25,6 +25,7 @@ constexpr int MaxOctet = 255;
 constexpr int Spacing = 4;
 constexpr QSize DotSize(2, 2);
 constexpr QLatin1Char Dot('.');
+constexpr auto CommandModifiers = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
 
 // Kept: the first number has to begin with 1 or 2, and only 10 to 19 and 100 to 255 are acceptable.
 QString firstOctetPattern()
@@ -171,7 +172,7 @@ bool IPLineEditPrivate::filterKey(int index, const QKeyEvent *event)
 
     if (m_bAcceptsAnyAddress && filterClipboardKey(field, event))
         return true;
-    if (key >= Qt::Key_0 && key <= Qt::Key_9) {
+    if (key >= Qt::Key_0 && key <= Qt::Key_9 && !(event->modifiers() & CommandModifiers)) {
         filterDigit(index, key);
     } else if (key == Qt::Key_Period && !isLast) {
         enterAllSelected(index + 1);

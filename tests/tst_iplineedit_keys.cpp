@@ -211,6 +211,8 @@ private Q_SLOTS:
     void digitReplacesASelectionAsTheValidatorSays();
     void fieldLongerThanThreeNeverMovesOn();
     void keypadDigitsAreDigits();
+    void digitsOfShortcutsAreNotTyped_data();
+    void digitsOfShortcutsAreNotTyped();
 
     // Other keys
     void keysLeadFromFieldToField_data();
@@ -639,6 +641,32 @@ void tst_IPLineEditKeys::keypadDigitsAreDigits()
 
     QCOMPARE(editor.focusIndex(), 2);
     QCOMPARE(editor.fields[1]->text(), QStringLiteral("77"));
+}
+
+void tst_IPLineEditKeys::digitsOfShortcutsAreNotTyped_data()
+{
+    QTest::addColumn<int>("modifier");
+    QTest::newRow("Ctrl") << int(Qt::ControlModifier);
+    QTest::newRow("Alt") << int(Qt::AltModifier);
+    QTest::newRow("Meta") << int(Qt::MetaModifier);
+}
+
+void tst_IPLineEditKeys::digitsOfShortcutsAreNotTyped()
+{
+    QFETCH(int, modifier);
+    Editor editor;
+    QVERIFY(editor.isReady());
+    editor.fill({QStringLiteral("11"), QStringLiteral("192"), QStringLiteral("10"), QStringLiteral("14")});
+
+    // Typed, it would move on.
+    editor.enter(1);
+    QTest::keyClick(editor.fields[1], Qt::Key_1, Qt::KeyboardModifier(modifier));
+    QCOMPARE(editor.focusIndex(), 1);
+
+    // Typed, it would make 010.
+    editor.enter(2, 0);
+    QTest::keyClick(editor.fields[2], Qt::Key_0, Qt::KeyboardModifier(modifier));
+    QCOMPARE(editor.edit.text(), QStringLiteral("11.192.10.14"));
 }
 
 void tst_IPLineEditKeys::keysLeadFromFieldToField_data()
