@@ -241,8 +241,8 @@ void IPLineEditPrivate::pasteAddress()
         fill(address.split(Dot));
         for (QLineEdit *field : m_fields)
             field->setModified(true);
+        enterAtEnd(FieldCount - 1);
     });
-    enterAtEnd(FieldCount - 1);
 }
 
 bool IPLineEditPrivate::hasAddressMenu(int index) const
@@ -283,9 +283,14 @@ void IPLineEditPrivate::normalize(QLineEdit *field) const
     field->setCursorPosition(number.size() - digitsBehindCursor);
 }
 
-/* Announces all that \a change does to the fields by one signal. */
+/* Announces all that \a change does to the fields by one signal, last of all: a slot may delete the editor.
+ */
 template <typename Change> void IPLineEditPrivate::changeAtOnce(Change change)
 {
+    if (m_bChanging) { // normalising comes within a change that moves the focus
+        change();
+        return;
+    }
     const QString before = q->text();
     m_bChanging = true;
     change();

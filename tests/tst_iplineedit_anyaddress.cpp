@@ -66,6 +66,8 @@ private Q_SLOTS:
     void wholeAddressIsPasted_data();
     void wholeAddressIsPasted();
     void pastedAddressIsAnEdit();
+    void pastedAddressIsAnnouncedLast();
+    void pastedAddressIsAnnouncedAsNormalised();
     void otherTextsArePastedIntoTheField();
     void readOnlyFieldsAreNotPastedInto();
     void wholeAddressIsCopied_data();
@@ -218,6 +220,45 @@ void tst_IPLineEditAnyAddress::pastedAddressIsAnEdit()
 
     QVERIFY(wasModifiedInSlot);
     QVERIFY(form.edit->isModified());
+}
+
+void tst_IPLineEditAnyAddress::pastedAddressIsAnnouncedLast()
+{
+    // GIVEN a slot that deletes the editor
+    AddressForm form;
+    QVERIFY(form.isReady());
+    form.edit->setAcceptsAnyAddress(true);
+    form.fields[0]->setFocus();
+    QGuiApplication::clipboard()->setText(QStringLiteral("10.20.30.40"));
+    const QPointer<IPLineEdit> edit = form.edit;
+    int focusIndex = -1;
+    connect(edit, &IPLineEdit::addressChanged, this, [&] {
+        focusIndex = edit->getIndex(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
+        delete edit;
+    });
+
+    // WHEN an address is pasted
+    QTest::keySequence(form.fields[0], QKeySequence(QKeySequence::Paste));
+
+    // THEN the editor had done all of it before
+    QVERIFY(!edit);
+    QCOMPARE(focusIndex, 3);
+}
+
+void tst_IPLineEditAnyAddress::pastedAddressIsAnnouncedAsNormalised()
+{
+    AddressForm form;
+    QVERIFY(form.isReady());
+    form.edit->setAcceptsAnyAddress(true);
+    form.fields[0]->setFocus();
+    QGuiApplication::clipboard()->setText(QStringLiteral("01.02.03.04"));
+    QSignalSpy changes(form.edit, &IPLineEdit::addressChanged);
+
+    QTest::keySequence(form.fields[0], QKeySequence(QKeySequence::Paste));
+
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(changes.constFirst().constFirst().toString(), QStringLiteral("1.2.3.4"));
+    QCOMPARE(form.edit->text(), QStringLiteral("1.2.3.4"));
 }
 
 void tst_IPLineEditAnyAddress::otherTextsArePastedIntoTheField()
