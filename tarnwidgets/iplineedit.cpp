@@ -54,7 +54,10 @@ bool isAddress(const QString &text)
                        [&octet](const QString &part) { return octet.exactMatch(part); });
 }
 
-/* What can be set without acceptsAnyAddress. Kept: that includes short forms and IPv6. */
+/*
+ * What can be set without acceptsAnyAddress. Kept: that includes short forms, IPv6 and blanks, of which the
+ * fields take what they have room for.
+ */
 bool isHostAddress(const QString &text)
 {
     const QHostAddress address(text);

@@ -73,8 +73,11 @@ public:
      *
      * What is an address is for QHostAddress to say: of a short form such as
      * 10.1 the parts fill the first fields and the other fields stay; of an IPv6
-     * address three characters end up in the first field. With acceptsAnyAddress,
-     * four numbers up to 255 are an address and nothing else is.
+     * address three characters end up in the first field. A field takes the first
+     * three characters of its part as they are, be it hexadecimal, octal or with
+     * a blank in front: trim texts from elsewhere. With acceptsAnyAddress, four
+     * numbers up to 255 are an address and nothing else is; 01 may stand for 1
+     * there, but 001 may not.
      *
      * \note Hides QLineEdit::setText().
      */

@@ -343,6 +343,14 @@ void tst_IPLineEdit::addressFillsTheFields_data()
                                   << "10.1.3.4";
     QTest::newRow("of one part") << "7"
                                  << "7.2.3.4";
+    QTest::newRow("with a blank in front") << " 192.168.1.20"
+                                           << " 19.168.1.20";
+    QTest::newRow("with a hexadecimal part") << "0x10.1.1.1"
+                                             << "0x1.1.1.1";
+    QTest::newRow("with an octal part") << "010.1.1.1"
+                                        << "010.1.1.1";
+    QTest::newRow("of one great number") << "3232235777"
+                                         << "323.2.3.4";
     QTest::newRow("IPv6, as far as it goes") << "fe80::1"
                                              << "fe8.2.3.4";
     QTest::newRow("IPv6 with dots") << "::1.2.3.4"

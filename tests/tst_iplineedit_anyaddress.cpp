@@ -108,6 +108,8 @@ void tst_IPLineEditAnyAddress::anyAddressTakesEveryAddressAndNothingElse_data()
     QTest::newRow("all zeros") << "0.0.0.0" << true;
     QTest::newRow("broadcast") << "255.255.255.255" << true;
     QTest::newRow("multicast") << "224.0.0.1" << true;
+    QTest::newRow("a leading zero") << "01.2.3.04" << true;
+    QTest::newRow("two leading zeros") << "001.2.3.4" << false;
     QTest::newRow("a number too great") << "1.2.3.256" << false;
     QTest::newRow("other characters for dots") << "1x2x3x4" << false;
     QTest::newRow("two parts") << "10.1" << false;
