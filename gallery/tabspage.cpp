@@ -140,8 +140,8 @@ QWidget *TabsPage::createSwitches()
     addForBars(tr("Expanding"), m_bar->expanding(), &TabBar::setExpanding);
     addForBars(tr("Hide if single"), false, &TabBar::setAutoHide);
     add(tr("Icons"), false, [this](bool on) { setIconsVisible(on); });
-    add(tr("Current enabled"), true,
-        [this](bool on) { changeBars([=](TabBar *bar) { bar->setTabEnabled(bar->currentIndex(), on); }); });
+    add(tr("Second tab enabled"), true,
+        [this](bool on) { changeBars([=](TabBar *bar) { bar->setTabEnabled(1, on); }); });
     add(tr("Side widgets"), true, [this](bool on) { setSideWidgetsVisible(on); });
     return group;
 }

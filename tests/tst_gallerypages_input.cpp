@@ -147,7 +147,7 @@ private Q_SLOTS:
     // Tabs
     void barSwitchesReachBothBars_data();
     void barSwitchesReachBothBars();
-    void currentTabIsDisabled();
+    void secondTabIsDisabledAndEnabled();
     void iconsComeAndGo();
     void sideWidgetsComeAndGo();
     void addButtonAddsATab();
@@ -320,13 +320,15 @@ void tst_GalleryPages_Input::barSwitchesReachBothBars()
     }
 }
 
-void tst_GalleryPages_Input::currentTabIsDisabled()
+void tst_GalleryPages_Input::secondTabIsDisabledAndEnabled()
 {
     const Stage stage(QStringLiteral("tabs"));
     const auto *tabs = stage.find<TarnTabWidget>();
-    stage.setSwitch(QStringLiteral("Current enabled"), false);
-    QVERIFY(!tabs->isTabEnabled(0));
-    QVERIFY(tabs->isTabEnabled(1));
+    for (const bool on : {false, true}) {
+        stage.setSwitch(QStringLiteral("Second tab enabled"), on);
+        QVERIFY(tabs->isTabEnabled(0));
+        QCOMPARE(tabs->isTabEnabled(1), on);
+    }
 }
 
 void tst_GalleryPages_Input::iconsComeAndGo()
