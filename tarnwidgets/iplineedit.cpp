@@ -450,7 +450,7 @@ bool IPLineEdit::eventFilter(QObject *watched, QEvent *event)
         d->showContextMenu(d->m_fields[index], static_cast<QContextMenuEvent *>(event)->globalPos());
         return true;
     }
-    // Kept: a press on a field is one on the editor and its parents, too, as far as they take it.
+    // Kept: a press on a field is one on the editor, too.
     if (type == QEvent::MouseButtonPress || type == QEvent::FocusIn)
         event->ignore();
     return QLineEdit::eventFilter(watched, event);

@@ -38,8 +38,13 @@ class IPLineEditPrivate;
  * but not typed, unless acceptsAnyAddress is set.
  * \note A digit for which a number has no room moves on to the next number, and
  * is not typed there.
- * \note Tab stops at the widget itself before the first number. Where that is
- * not wanted, set Qt::NoFocus and give the focus by setIPFocus().
+ * \note What is QLineEdit's own and not described here is that of an empty,
+ * read-only line edit behind the fields: text, textChanged(), acceptableInput,
+ * setReadOnly(). Use addressChanged(), hasAcceptableInput() and, for the fields,
+ * setProperty().
+ * \note The widget itself takes the focus, and not the first number: by Tab, which
+ * stops at both, by the mnemonic of a label whose buddy it is, and by setFocus().
+ * Where that is not wanted, set Qt::NoFocus and give the focus by setIPFocus().
  */
 class TARNWIDGETS_EXPORT IPLineEdit : public QLineEdit
 {
@@ -131,7 +136,11 @@ public:
      */
     bool isTextValid(const QString &text) const;
 
-    /*! Moves the focus between the fields on key presses, which still reach the field that they were for. */
+    /*!
+     * Moves the focus between the fields on key presses, which still reach the field
+     * that they were for: all but the full stop between two fields and, with
+     * acceptsAnyAddress, the keys that copy or paste a whole address.
+     */
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 public Q_SLOTS:
