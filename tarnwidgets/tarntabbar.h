@@ -120,7 +120,8 @@ public:
     void addLeftWidget(QWidget *widget);
     void addRightWidget(QWidget *widget);
 
-    /*! The same for the one widget behind the tabs; ignored while there is one. */
+    /*! The same for the one widget behind the tabs. While there is one, another is ignored and stays the
+     * caller's. */
     void addCenterWidget(QWidget *widget);
 
     /*! Centres the three areas in the height of the frame, instead of giving them all of it. */

@@ -37,7 +37,8 @@ class TarnTabWidgetPrivate;
  * remove, not for getTabBar().
  *
  * Pages whose class is exactly QWidget have the colour of
- * setStackedWidgetColor(), by a style sheet on the stack; others keep theirs.
+ * setStackedWidgetColor(), by a style sheet on the stack; others keep theirs,
+ * if their class has Q_OBJECT: without it, it is QWidget to a style sheet.
  * Style sheet rules for QTabBar reach the bar.
  *
  * \note Whatever place a page is inserted at, it is the last one that becomes

@@ -130,8 +130,7 @@ void tst_ChangedNoticeLineEdit::noticeComesBeforeTheBaseClassActs_data()
 }
 
 // QLineEdit drops its selection when focus leaves for good, and says that editing is finished unless a popup
-// comes up: the two traces of the
-// base class's work that show outside.
+// of its own is open: the two traces of the base class's work that show outside.
 void tst_ChangedNoticeLineEdit::noticeComesBeforeTheBaseClassActs()
 {
     QFETCH(Qt::FocusReason, reason);
