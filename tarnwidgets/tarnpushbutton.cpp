@@ -25,6 +25,7 @@ TarnPushButton::TarnPushButton(QWidget *parent)
 
 TarnPushButton::~TarnPushButton() = default;
 
+// Kept: a setter, despite its name.
 void TarnPushButton::isOpenRotation(bool on)
 {
     d->m_bRotated = on;
@@ -51,9 +52,10 @@ QString TarnPushButton::getBtnText() const
 
 void TarnPushButton::setText(const QString &text)
 {
-    // Kept: the height counts whether or not the text is turned.
+    // Kept: the height counts whether or not the text is turned, and the font that the button has by now,
+    // which a style sheet may change later.
     const bool fits = fontMetrics().horizontalAdvance(text) <= height();
-    const QString toolTip = fits ? QString() : text;
+    const QString toolTip = fits ? QString() : text; // Kept: also in place of one of the application's own
     if (toolTip != this->toolTip())
         setToolTip(toolTip);
     QPushButton::setText(fontMetrics().elidedText(text, Qt::ElideRight, height()));

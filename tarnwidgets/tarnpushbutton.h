@@ -30,8 +30,12 @@ class TarnPushButtonPrivate;
  *
  * A turned button shows what setBtnText() was given, cut anew whenever its
  * height or font changes. One that is not turned cuts its text once, when it is
- * set. Its size hints are those of a button that is not turned.
+ * set, by the font of that moment: where a style sheet sets the font, set the
+ * text after the button is shown or ensurePolished(). Its size hints are those of
+ * a button that is not turned.
  *
+ * \note The tool tip is the button's to set: one of the application's own is gone
+ * after the next text, on a turned button after the next paint.
  * \note A turned text shows ampersands as they are, and has the colour of the
  * button's palette: a style sheet's color for :hover or :pressed does not reach
  * it.

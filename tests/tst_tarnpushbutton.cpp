@@ -146,6 +146,9 @@ private Q_SLOTS:
     void fullTextStays();
     void setTextDoesNotTouchTheFullText();
     void textOfAButtonNotTurnedIsCutWhenSet();
+    void textSetBeforePolishingIsCutForTheFormerFont();
+    void toolTipOfTheApplicationGoesWithTheNextPaint_data();
+    void toolTipOfTheApplicationGoesWithTheNextPaint();
     void textOfATurnedButtonIsCutWhenPainted_data();
     void textOfATurnedButtonIsCutWhenPainted();
     void turnedButtonGoesBackToItsFullText();
@@ -304,6 +307,54 @@ void tst_TarnPushButton::textOfAButtonNotTurnedIsCutWhenSet()
     QCOMPARE(button.text(), cut);
     button.setBtnText(LongText);
     QCOMPARE(button.text(), LongText);
+}
+
+void tst_TarnPushButton::textSetBeforePolishingIsCutForTheFormerFont()
+{
+    // GIVEN a button that has not got the great font of its window's style sheet yet
+    QWidget window;
+    window.setStyleSheet(QStringLiteral("QPushButton { font-size: 60px; }"));
+    TarnPushButton button(&window);
+    button.resize(Narrow);
+    const QString text = QStringLiteral("Message");
+    QVERIFY(button.fontMetrics().horizontalAdvance(text) <= Narrow.height());
+
+    // WHEN a text is set that fits by the font that it has
+    button.setBtnText(text);
+    button.ensurePolished();
+
+    // THEN it stays whole until it is set again
+    QVERIFY(button.fontMetrics().horizontalAdvance(text) > Narrow.height());
+    QCOMPARE(button.text(), text);
+    QVERIFY(button.toolTip().isEmpty());
+    button.setBtnText(text);
+    QVERIFY(button.text().endsWith(QChar(0x2026)));
+    QCOMPARE(button.toolTip(), text);
+}
+
+void tst_TarnPushButton::toolTipOfTheApplicationGoesWithTheNextPaint_data()
+{
+    QTest::addColumn<bool>("isTurned");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("turned") << true << QString();
+    QTest::newRow("not turned") << false << "The application's";
+}
+
+void tst_TarnPushButton::toolTipOfTheApplicationGoesWithTheNextPaint()
+{
+    QFETCH(bool, isTurned);
+    QFETCH(QString, expected);
+    TarnPushButton button;
+    button.resize(Narrow);
+    button.isOpenRotation(isTurned);
+    button.setBtnText(QStringLiteral("A"));
+
+    button.setToolTip(QStringLiteral("The application's"));
+    picture(&button);
+    QCOMPARE(button.toolTip(), expected);
+
+    button.setBtnText(QStringLiteral("B"));
+    QVERIFY(button.toolTip().isEmpty());
 }
 
 void tst_TarnPushButton::textOfATurnedButtonIsCutWhenPainted_data()
