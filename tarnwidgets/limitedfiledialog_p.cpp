@@ -122,6 +122,8 @@ LimitGuard::LimitGuard(LimitedFileDialog *dialog)
         connect(edit, &QLineEdit::textEdited, this, &LimitGuard::clearNotice);
         connect(edit, &QLineEdit::textChanged, this, &LimitGuard::checkText);
         m_completer = edit->completer();
+        if (m_completer)
+            m_completer->popup()->viewport()->installEventFilter(this);
     }
     if (auto *newFolder = dialog->findChild<QToolButton *>(QStringLiteral("newFolderButton")))
         connect(newFolder, &QToolButton::pressed, this, &LimitGuard::settle);
@@ -234,6 +236,8 @@ bool LimitGuard::eventFilter(QObject *watched, QEvent *event)
             dropForeignSelections(changesFiles(static_cast<QKeyEvent *>(event)->key()));
         return false;
     }
+    if (m_completer && watched == m_completer->popup()->viewport())
+        return event->type() == QEvent::Paint && dropForeignCompletions();
     if (!isUse(event->type()))
         return false;
     auto *view = qobject_cast<QAbstractItemView *>(watched);
@@ -278,7 +282,30 @@ void LimitGuard::checkText(const QString &text)
     // What could be completed outside is nobody's business.
     auto *edit = m_dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
     if (edit && m_completer)
-        edit->setCompleter(fits ? m_completer : nullptr);
+        edit->setCompleter(fits && mayComplete(text) ? m_completer : nullptr);
+}
+
+// Whether the names that continue the text are in a permitted folder.
+bool LimitGuard::mayComplete(const QString &text) const
+{
+    if (m_roots.isEmpty() || text.isEmpty())
+        return true;
+    // QFileDialog takes it for somebody's home.
+    if (text.startsWith(QLatin1Char('~')))
+        return false;
+    const QString path = m_dialog->directory().absoluteFilePath(text);
+    return contains(path.left(path.lastIndexOf(QLatin1Char('/')) + 1));
+}
+
+// QFileDialog's completer comes back by itself when a folder that the dialog has left again is loaded.
+bool LimitGuard::dropForeignCompletions() const
+{
+    auto *popup = m_completer->popup();
+    const QString path = popup->model()->index(0, 0).data(QFileSystemModel::FilePathRole).toString();
+    if (m_roots.isEmpty() || path.isEmpty() || contains(QFileInfo(path).path()))
+        return false;
+    QMetaObject::invokeMethod(popup, &QWidget::hide, Qt::QueuedConnection);
+    return true;
 }
 
 void LimitGuard::checkCurrent(const QString &path)

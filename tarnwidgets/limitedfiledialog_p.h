@@ -70,6 +70,8 @@ private:
     bool isShownPermitted() const;
     void checkShownFolder();
     void checkText(const QString &text);
+    bool mayComplete(const QString &text) const;
+    bool dropForeignCompletions() const;
     void checkCurrent(const QString &path);
     void goBackInside();
     void settle();
