@@ -117,6 +117,7 @@ private Q_SLOTS:
     // Typed text
     void textIsTestedInTheFolderShown_data();
     void textIsTestedInTheFolderShown();
+    void textThatComesWhileDisabledLeavesTheButtonDisabled();
     void returnAndEnterAreTestedLikeText_data();
     void returnAndEnterAreTestedLikeText();
 
@@ -763,6 +764,22 @@ void tst_LimitedFileDialog::textIsTestedInTheFolderShown()
     confined.dialog.checkLineEdit(m_tree->at(text));
     QVERIFY(!first->isEnabled());
     QVERIFY(confined.parts.rejecting()->isEnabled());
+}
+
+void tst_LimitedFileDialog::textThatComesWhileDisabledLeavesTheButtonDisabled()
+{
+    Confined confined(*m_tree);
+    confined.parts.edit->setText(QStringLiteral("file.txt"));
+    QVERIFY(confined.parts.accepting()->isEnabled());
+
+    confined.dialog.setEnabled(false);
+    confined.parts.edit->setText(QStringLiteral("with space.txt"));
+    confined.dialog.setEnabled(true);
+    QVERIFY(!confined.parts.accepting()->isEnabled());
+
+    // Until the text changes again
+    confined.parts.edit->setText(QStringLiteral("file.txt"));
+    QVERIFY(confined.parts.accepting()->isEnabled());
 }
 
 void tst_LimitedFileDialog::returnAndEnterAreTestedLikeText_data()

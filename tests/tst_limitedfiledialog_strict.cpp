@@ -10,10 +10,12 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QCompleter>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QFileSystemModel>
+#include <QGridLayout>
 #include <QIdentityProxyModel>
 #include <QLabel>
 #include <QLineEdit>
@@ -58,9 +60,12 @@ private Q_SLOTS:
     void refusesChangesOutside_data();
     void refusesChangesOutside();
     void makesFoldersInsideOnly();
+    void makesNoFolderWhileShut();
+    void makesFoldersAgainAfterOneThatIsNotWritable();
     void endsADropInsideOnly();
     void deletesLinksButNotWhatTheyLeadTo_data();
     void deletesLinksButNotWhatTheyLeadTo();
+    void deletesNothingAboveByDots();
     void startsInTheRoot();
     void startsInTheRootAfterTheLimitIsMadeStrict();
     void staysInAStartFolderInside();
@@ -72,16 +77,24 @@ private Q_SLOTS:
     void admitsWhatIsInside_data();
     void admitsWhatIsInside();
     void admitsTheSecondFolder();
+    void admitsTheSecondFolderInWhicheverOrder();
+    void secondFolderAloneIsNoLimit();
     void missingRootRefusesEverything();
     void missingRootAdmitsAgainOnceItIsThere();
     void vanishedRootRefusesEverything();
     void vanishedFolderLeadsBackToTheRoot();
+    void vanishedFolderTakesItsTypedNameAlong();
+    void linkInPlaceOfTheRootRefusesEverything();
     void emptyPathLiftsTheLimit();
     void switchingOffBringsThePlainLimitBack();
+    void switchingLeavesTheLayoutAsItWas();
     void newDialogsTakeTheDefault();
     void oneCallFunctionsHonourTheDefault_data();
     void oneCallFunctionsHonourTheDefault();
     void noticeIsOneLineThatGoesWhenTypedOn();
+    void completesInsideOnly_data();
+    void completesInsideOnly();
+    void completesNothingOfAFolderThatIsLeftAgain();
     void addsNothingUnlessStrict();
     void listsWhatQFileDialogLists_data();
     void listsWhatQFileDialogLists();
@@ -151,11 +164,8 @@ static void checkAttempt()
     QCOMPARE(scene.outside(), QStringList());
     QVERIFY(scene.notice()->isVisible());
     QVERIFY(!scene.notice()->text().isEmpty());
-    QCoreApplication::processEvents();
+    QCOMPARE(scene.outsideOnceSettled(), QStringList());
     QVERIFY(scene.isOutsideUntouched());
-    QCOMPARE(scene.outside(), QStringList());
-    QCOMPARE(scene.list()->rootIndex().data(QFileSystemModel::FilePathRole).toString(),
-             scene.model()->rootPath());
     QCOMPARE(scene.accepted, 0);
     QVERIFY(scene.dialog.isVisible());
 }
@@ -338,6 +348,16 @@ void tst_LimitedFileDialogStrict::refusesChangesOutside_data()
         s.list()->setFocus();
         QTest::keyClick(s.list(), Qt::Key_Delete);
     });
+    row("a file outside typed, and F2", true, [](LimitScene &s) {
+        s.edit()->setText(s.tree.at("outside/secret.txt"));
+        s.list()->setFocus();
+        QTest::keyClick(s.list(), Qt::Key_F2);
+        auto *editor = s.list()->findChild<QLineEdit *>();
+        if (!editor)
+            return;
+        editor->setText(QStringLiteral("renamed"));
+        QTest::keyClick(editor, Qt::Key_Return);
+    });
 }
 
 void tst_LimitedFileDialogStrict::refusesChangesOutside()
@@ -355,6 +375,49 @@ void tst_LimitedFileDialogStrict::makesFoldersInsideOnly()
 
     QVERIFY(!scene.hasEscaped());
     QVERIFY(QFileInfo::exists(scene.tree.at("root/New Folder")));
+}
+
+void tst_LimitedFileDialogStrict::makesNoFolderWhileShut()
+{
+    // GIVEN a dialog whose root vanishes, and that is sent up and outside
+    LimitScene scene(true);
+    auto *newFolder = scene.part<QToolButton>("newFolderButton");
+    scene.item("file.txt");
+    QVERIFY(newFolder->isEnabled());
+    QVERIFY(QDir(scene.tree.at("root")).removeRecursively());
+    const QStringList before = scene.tree.contentsOutside();
+    QTest::keyClick(&scene.dialog, Qt::Key_Up, Qt::ControlModifier);
+    scene.dialog.setDirectory(scene.tree.at("outside"));
+    QCoreApplication::processEvents();
+    QVERIFY(!scene.list()->isVisible());
+
+    // WHEN a folder is asked for
+    const bool enabled = newFolder->isEnabled();
+    QTest::mouseClick(newFolder, Qt::LeftButton);
+
+    // THEN there is none
+    QVERIFY(!enabled);
+    QCOMPARE(scene.tree.contentsOutside(), before);
+}
+
+void tst_LimitedFileDialogStrict::makesFoldersAgainAfterOneThatIsNotWritable()
+{
+    const QString fixed = QStringLiteral("/proc/sys");
+    if (!QFileInfo(fixed).isDir() || QFileInfo(fixed).isWritable())
+        QSKIP("The system has no folder that not even its administrator can write to");
+
+    // GIVEN that such a folder disables the button
+    LimitScene plain(false);
+    plain.dialog.setDirectory(fixed);
+    QVERIFY(!plain.part<QToolButton>("newFolderButton")->isEnabled());
+
+    // WHEN a strict dialog leaves it again
+    LimitScene scene(true);
+    scene.dialog.setDirectory(fixed);
+    QCOMPARE(scene.outsideOnceSettled(), QStringList());
+
+    // THEN the button is for the root
+    QVERIFY(scene.part<QToolButton>("newFolderButton")->isEnabled());
 }
 
 void tst_LimitedFileDialogStrict::endsADropInsideOnly()
@@ -391,6 +454,46 @@ void tst_LimitedFileDialogStrict::deletesLinksButNotWhatTheyLeadTo()
     QVERIFY(!deleted.exists() && !deleted.isSymLink());
     QVERIFY(scene.isOutsideUntouched());
     QVERIFY(QFileInfo::exists(scene.tree.at("outside/dir/secret.txt")));
+}
+
+// The item of "." or "..".
+static QModelIndex dots(LimitScene *scene, const QString &name)
+{
+    const QAbstractItemView *list = scene->list();
+    QModelIndex found;
+    const auto find = [&] {
+        for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row) {
+            const QModelIndex index = list->model()->index(row, 0, list->rootIndex());
+            if (index.data(QFileSystemModel::FileNameRole) == name)
+                found = index;
+        }
+        return found.isValid();
+    };
+    return QTest::qWaitFor(find) ? found : QModelIndex();
+}
+
+void tst_LimitedFileDialogStrict::deletesNothingAboveByDots()
+{
+    // GIVEN a dialog that lists the dots
+    const Answerer answerer;
+    LimitScene scene(true);
+    scene.dialog.setFilter(QDir::AllEntries | QDir::AllDirs);
+    const QModelIndex above = dots(&scene, QStringLiteral(".."));
+    QVERIFY(above.isValid());
+    scene.list()->setFocus();
+    scene.list()->setCurrentIndex(above);
+
+    // WHEN the user walks over them, THEN they stay current
+    QTest::keyClick(scene.list(), Qt::Key_Up);
+    QVERIFY(scene.list()->currentIndex().isValid());
+    QVERIFY(scene.list()->currentIndex() != above);
+    QTest::keyClick(scene.list(), Qt::Key_Down);
+    QCOMPARE(scene.list()->currentIndex(), above);
+
+    // BUT deleted they are not
+    QTest::keyClick(scene.list(), Qt::Key_Delete);
+    QVERIFY(scene.isOutsideUntouched());
+    QVERIFY(QFileInfo::exists(scene.tree.at("root/file.txt")));
 }
 
 void tst_LimitedFileDialogStrict::startsInTheRoot()
@@ -602,6 +705,33 @@ void tst_LimitedFileDialogStrict::admitsTheSecondFolder()
     QCOMPARE(scene.dialog.directory().absolutePath(), scene.tree.at("root"));
 }
 
+void tst_LimitedFileDialogStrict::admitsTheSecondFolderInWhicheverOrder()
+{
+    LimitScene scene(true);
+    QVERIFY(!scene.dialog.pathFits(scene.tree.at("root2/file.txt")));
+
+    scene.dialog.setLimitedPath1(scene.tree.at("root2"));
+
+    QVERIFY(scene.dialog.pathFits(scene.tree.at("root2/file.txt")));
+    QVERIFY(scene.dialog.pathFits(scene.tree.at("root/file.txt")));
+    scene.dialog.setDirectory(scene.tree.at("root2"));
+    QCOMPARE(scene.dialog.directory().absolutePath(), scene.tree.at("root2"));
+    QVERIFY(!scene.notice()->isVisible());
+}
+
+void tst_LimitedFileDialogStrict::secondFolderAloneIsNoLimit()
+{
+    LimitScene scene(true);
+    QVERIFY(!scene.dialog.pathFits(scene.tree.at("outside/secret.txt")));
+    scene.dialog.setLimitedPath1(scene.tree.at("root2"));
+
+    scene.dialog.setLimitedPath(QString());
+
+    QVERIFY(scene.dialog.pathFits(scene.tree.at("outside/secret.txt")));
+    scene.dialog.setDirectory(scene.tree.at("outside"));
+    QCOMPARE(scene.dialog.directory().absolutePath(), scene.tree.at("outside"));
+}
+
 void tst_LimitedFileDialogStrict::missingRootRefusesEverything()
 {
     LimitScene scene(true);
@@ -676,6 +806,53 @@ void tst_LimitedFileDialogStrict::vanishedFolderLeadsBackToTheRoot()
     QCOMPARE(scene.outside(), QStringList());
 }
 
+void tst_LimitedFileDialogStrict::vanishedFolderTakesItsTypedNameAlong()
+{
+    // GIVEN a name that was typed in a folder, and that the root has, too
+    LimitScene scene(true);
+    scene.dialog.setDirectory(scene.tree.at("root/sub"));
+    scene.item("deep");
+    scene.edit()->setText(QStringLiteral("file.txt"));
+    QVERIFY(QFileInfo::exists(scene.tree.at("root/file.txt")));
+
+    // WHEN the folder vanishes before the name is accepted
+    QVERIFY(QDir(scene.tree.at("root/sub")).removeRecursively());
+    static_cast<QDialog &>(scene.dialog).accept();
+
+    // THEN the root's file is not mistaken for it
+    QCOMPARE(scene.accepted, 0);
+    QVERIFY(scene.dialog.isVisible());
+    QVERIFY(scene.notice()->isVisible());
+}
+
+void tst_LimitedFileDialogStrict::linkInPlaceOfTheRootRefusesEverything()
+{
+    LimitScene scene(true);
+    QDir tree(scene.tree.path());
+    scene.item("file.txt");
+
+    // WHEN the root is moved away, and a link comes to its place
+    QVERIFY(tree.rename(QStringLiteral("root"), QStringLiteral("away")));
+    QVERIFY(QFile::link(scene.tree.at("outside"), scene.tree.at("root")));
+
+    // THEN nothing fits
+    QVERIFY(!scene.dialog.pathFits(scene.tree.at("root")));
+    QVERIFY(!scene.dialog.pathFits(scene.tree.at("root/secret.txt")));
+    scene.put(QStringLiteral("secret.txt"));
+    scene.put(scene.tree.at("root/secret.txt"));
+    QCOMPARE(scene.accepted, 0);
+    QVERIFY(scene.dialog.selectedFiles().isEmpty());
+
+    // UNTIL the folder is back
+    QVERIFY(QFile::remove(scene.tree.at("root")));
+    QVERIFY(tree.rename(QStringLiteral("away"), QStringLiteral("root")));
+    QVERIFY(scene.dialog.pathFits(scene.tree.at("root/file.txt")));
+    scene.dialog.setDirectory(scene.tree.at("root"));
+    scene.put(QStringLiteral("file.txt"));
+    QCOMPARE(scene.accepted, 1);
+    QCOMPARE(scene.outside(), QStringList());
+}
+
 void tst_LimitedFileDialogStrict::emptyPathLiftsTheLimit()
 {
     LimitScene scene(true);
@@ -709,6 +886,22 @@ void tst_LimitedFileDialogStrict::switchingOffBringsThePlainLimitBack()
     scene.dialog.setStrict(true);
     QCOMPARE(scene.dialog.getLimitedPath(), scene.tree.at("missing"));
     QVERIFY(!scene.dialog.pathFits(scene.tree.at("outside")));
+}
+
+void tst_LimitedFileDialogStrict::switchingLeavesTheLayoutAsItWas()
+{
+    LimitScene scene(true);
+    const auto *layout = qobject_cast<QGridLayout *>(scene.dialog.layout());
+    QVERIFY(layout);
+    const int rows = layout->rowCount();
+
+    for (int times = 0; times < 5; ++times) {
+        scene.dialog.setStrict(false);
+        scene.dialog.setStrict(true);
+    }
+
+    QCOMPARE(layout->rowCount(), rows);
+    QVERIFY(layout->indexOf(scene.notice()) >= 0);
 }
 
 void tst_LimitedFileDialogStrict::newDialogsTakeTheDefault()
@@ -787,6 +980,79 @@ void tst_LimitedFileDialogStrict::noticeIsOneLineThatGoesWhenTypedOn()
     scene.edit()->selectAll();
     QTest::keyClicks(scene.edit(), QStringLiteral("f"));
     QVERIFY(!notice->isVisible());
+}
+
+void tst_LimitedFileDialogStrict::completesInsideOnly_data()
+{
+    QTest::addColumn<QString>("text"); // "@" stands for the tree's folder
+    QTest::addColumn<bool>("completedUnlessStrict");
+
+    QTest::newRow("a path") << "@/outside/s" << true;
+    QTest::newRow("up") << "../outside/s" << false;
+    QTest::newRow("a link") << "linkdir/s" << false;
+    QTest::newRow("home") << "~/s" << false;
+    QTest::newRow("all homes") << "~" << true;
+    QTest::newRow("a file of the folder above") << "../o" << false;
+    QTest::newRow("the root's siblings") << "@/root" << true;
+    QTest::newRow("the root's siblings, upwards") << "../root" << true;
+}
+
+void tst_LimitedFileDialogStrict::completesInsideOnly()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, completedUnlessStrict);
+    const auto type = [&text](LimitScene *scene) {
+        qputenv("HOME", scene->tree.at("outside").toLocal8Bit());
+        scene->edit()->setFocus();
+        scene->edit()->selectAll();
+        QTest::keyClicks(scene->edit(), QString(text).replace(QLatin1Char('@'), scene->tree.path()));
+    };
+
+    // GIVEN that the text is completed in a plain dialog
+    if (completedUnlessStrict) {
+        LimitScene plain(false);
+        type(&plain);
+        QTRY_VERIFY(!plain.completions().isEmpty());
+    }
+
+    // WHEN it is typed in a strict one, THEN nothing is offered
+    LimitScene scene(true);
+    type(&scene);
+    QVERIFY(!scene.edit()->completer());
+    QCOMPARE(scene.outsideOnceSettled(), QStringList());
+    QCOMPARE(scene.completions(), QStringList());
+
+    // AND names inside are completed again
+    scene.edit()->selectAll();
+    QTest::keyClicks(scene.edit(), QStringLiteral("fil"));
+    QTRY_COMPARE(scene.completions(), QStringList(scene.tree.at("root/file.txt")));
+
+    // AND so is everything that is not strict any more
+    type(&scene);
+    QVERIFY(!scene.edit()->completer());
+    scene.dialog.setStrict(false);
+    QVERIFY(scene.edit()->completer());
+    if (completedUnlessStrict) {
+        type(&scene);
+        QTRY_VERIFY(!scene.completions().isEmpty());
+    }
+}
+
+void tst_LimitedFileDialogStrict::completesNothingOfAFolderThatIsLeftAgain()
+{
+    // GIVEN a text that nothing completes
+    LimitScene scene(true);
+    scene.item("file.txt");
+    scene.edit()->setFocus();
+    QTest::keyClicks(scene.edit(), QStringLiteral("nothing"));
+    QCOMPARE(scene.completions(), QStringList());
+
+    // WHEN the user tries to go up
+    QTest::keyClick(&scene.dialog, Qt::Key_Up, Qt::ControlModifier);
+    QVERIFY(scene.notice()->isVisible());
+
+    // THEN what is there is not offered
+    QTRY_COMPARE(scene.outsideOnceSettled(), QStringList());
 }
 
 // The parts of both dialogs, one line each.

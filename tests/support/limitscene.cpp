@@ -4,6 +4,7 @@
 #include "limitscene.h"
 
 #include <QApplication>
+#include <QCompleter>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QDirIterator>
@@ -189,6 +190,20 @@ bool LimitScene::drop(const QPoint &position, const QList<QUrl> &urls, Qt::DropA
     return drop.isAccepted();
 }
 
+QStringList LimitScene::completions()
+{
+    QStringList offered;
+    const auto completers = dialog.findChildren<QCompleter *>();
+    for (QCompleter *completer : completers) {
+        if (!completer->popup()->isVisible())
+            continue;
+        const QAbstractItemModel *rows = completer->popup()->model();
+        for (int row = 0; row < rows->rowCount(); ++row)
+            offered += rows->index(row, 0).data(QFileSystemModel::FilePathRole).toString();
+    }
+    return offered;
+}
+
 QStringList LimitScene::outside()
 {
     QStringList seen = results;
@@ -204,6 +219,42 @@ QStringList LimitScene::outside()
             found += path;
     }
     return found;
+}
+
+QStringList LimitScene::offeredOutside()
+{
+    // A link may be offered, but not what is behind it.
+    QStringList found;
+    const QStringList offered = completions();
+    for (const QString &path : offered) {
+        if (!tree.isInside(QFileInfo(path).path()))
+            found += path;
+    }
+    return found;
+}
+
+QStringList LimitScene::viewsAstray()
+{
+    QStringList found;
+    for (const char *name : {"listView", "treeView"}) {
+        const auto *view = part<QAbstractItemView>(name);
+        const QString shown = view->rootIndex().data(QFileSystemModel::FilePathRole).toString();
+        if (shown != model()->rootPath() && view->parentWidget()->isVisible())
+            found += QLatin1String(name) + QLatin1String(" in ") + shown;
+    }
+    return found;
+}
+
+QStringList LimitScene::outsideOnceSettled()
+{
+    QCoreApplication::processEvents();
+    // Until they are painted, views and completions may be anywhere.
+    QStringList found;
+    const auto isSettled = [&] {
+        found = offeredOutside() + viewsAstray();
+        return found.isEmpty();
+    };
+    return QTest::qWaitFor(isSettled, 2000) ? outside() : found;
 }
 
 bool LimitScene::isOutsideUntouched() const

@@ -87,8 +87,15 @@ public:
     void doubleClick(const char *name);
     bool drop(const QPoint &position, const QList<QUrl> &urls, Qt::DropAction action = Qt::CopyAction);
 
+    /*! What the user is shown to complete the text. */
+    QStringList completions();
+
     /*! What of all that can be seen is outside; empty if nothing. */
     QStringList outside();
+
+    /*! The same once pending events are handled, with the folders in the views that the model does not show.
+     */
+    QStringList outsideOnceSettled();
 
     bool isOutsideUntouched() const;
     bool hasEscaped();
@@ -99,6 +106,9 @@ public:
     int accepted = 0;
 
 private:
+    QStringList offeredOutside();
+    QStringList viewsAstray();
+
     const QStringList m_contentsOutside;
 };
 
