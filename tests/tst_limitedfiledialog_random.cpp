@@ -9,10 +9,13 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QDir>
+#include <QFileInfo>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <QUrl>
 #include <memory>
@@ -22,7 +25,7 @@ using namespace Tarn::Test;
 
 namespace {
 
-/* Drives a strict dialog with whatever comes to its mind, but changes no files. */
+/* Drives a strict dialog with whatever comes to its mind. */
 class Monkey
 {
 public:
@@ -43,18 +46,35 @@ public:
         return m_deed;
     }
 
+    // Whether what is selected may be deleted, now that QFileDialog asks for it.
+    bool mayDelete()
+    {
+        for (const QString &path : selectedPaths()) {
+            if (!m_scene->tree.isInside(QFileInfo(path).path())) {
+                m_asked += path;
+                return false;
+            }
+        }
+        // QFileDialog's completer does not survive the end of a file in its path.
+        return m_scene->edit()->text().isEmpty() && chance(2);
+    }
+
+    // What outside was about to be deleted.
+    QStringList asked() const
+    {
+        return m_asked;
+    }
+
     void step()
     {
         if (++m_steps % StepsPerScene == 0)
             renew();
         using Step = void (Monkey::*)();
-        static constexpr Step Steps[] = {&Monkey::key,      &Monkey::key,     &Monkey::key,
-                                         &Monkey::key,      &Monkey::mouse,   &Monkey::mouse,
-                                         &Monkey::typeName, &Monkey::putPath, &Monkey::program,
-                                         &Monkey::drop,     &Monkey::button,  &Monkey::list};
+        static constexpr Step Steps[] = {
+            &Monkey::key,    &Monkey::key,      &Monkey::key,         &Monkey::key,         &Monkey::mouse,
+            &Monkey::mouse,  &Monkey::typeName, &Monkey::putPath,     &Monkey::program,     &Monkey::drop,
+            &Monkey::button, &Monkey::list,     &Monkey::changeFiles, &Monkey::changeFilter};
         (this->*pick(Steps))();
-        if (m_steps % 16 == 0)
-            QCoreApplication::processEvents();
         if (!m_scene->dialog.isVisible())
             m_scene->dialog.show();
     }
@@ -110,6 +130,15 @@ private:
             path = QLatin1Char('"') + path + QStringLiteral("\" \"") + m_scene->tree.at("outside/secret.txt")
                 + QLatin1Char('"');
         return path;
+    }
+
+    QStringList selectedPaths()
+    {
+        QStringList paths;
+        const QModelIndexList rows = m_scene->list()->selectionModel()->selectedIndexes();
+        for (const QModelIndex &row : rows)
+            paths += row.data(QFileSystemModel::FilePathRole).toString();
+        return paths;
     }
 
     QWidget *keyTarget()
@@ -236,6 +265,67 @@ private:
         button->click();
     }
 
+    // Beside these, keys delete what is clicked.
+    void changeFiles()
+    {
+        switch (m_random.bounded(3)) {
+        case 0:
+            m_deed = QStringLiteral("new folder");
+            m_scene->part<QToolButton>("newFolderButton")->click();
+            return nameEdited();
+        case 1:
+            m_deed = QStringLiteral("F2");
+            return rename();
+        default:
+            m_deed = QStringLiteral("context menu");
+            return openMenu();
+        }
+    }
+
+    void rename()
+    {
+        auto *list = m_scene->list();
+        const QModelIndex current = list->currentIndex();
+        // Else the view complains.
+        const bool isEditable = current.isValid() && current.flags().testFlag(Qt::ItemIsEditable)
+            && list->visualRect(current).isValid() && list->isVisible();
+        if (!isEditable || !m_scene->edit()->text().isEmpty())
+            return;
+        QTest::keyClick(list, Qt::Key_F2);
+        nameEdited();
+    }
+
+    // Ends the editing of a name in the list, if there is any.
+    void nameEdited()
+    {
+        auto *editor = m_scene->list()->viewport()->findChild<QLineEdit *>();
+        if (!editor)
+            return;
+        editor->setText(QStringLiteral("name %1").arg(m_random.bounded(8)));
+        QTest::keyClick(editor, chance(2) ? Qt::Key_Return : Qt::Key_Escape);
+    }
+
+    void openMenu()
+    {
+        QWidget *viewport = m_scene->list()->viewport();
+        const QPoint position(m_random.bounded(viewport->width()), m_random.bounded(viewport->height()));
+        QTimer::singleShot(0, viewport, [] {
+            while (auto *menu = QApplication::activePopupWidget())
+                menu->close();
+        });
+        QContextMenuEvent event(QContextMenuEvent::Mouse, position, viewport->mapToGlobal(position));
+        QCoreApplication::sendEvent(viewport, &event);
+    }
+
+    void changeFilter()
+    {
+        m_deed = QStringLiteral("filter");
+        const QDir::Filters usual = QDir::AllEntries | QDir::AllDirs;
+        m_scene->dialog.setFilter(
+            pick<QDir::Filters>({usual, usual | QDir::NoDotAndDotDot, usual | QDir::Hidden | QDir::System,
+                                 QDir::Dirs | QDir::NoDot}));
+    }
+
     void list()
     {
         const char *const name = pick({"lookInCombo", "sidebar"});
@@ -266,6 +356,7 @@ private:
     std::unique_ptr<LimitScene> m_scene;
     QByteArray m_state;
     QString m_deed;
+    QStringList m_asked;
     int m_steps = 0;
 };
 
@@ -313,15 +404,14 @@ void tst_LimitedFileDialogRandom::staysInsideWhateverTheUserDoes()
     qInfo("TARN_TEST_SEED=%u", seed);
     m_guard->sentry().clear();
 
-    // Nothing is ever deleted or moved away: QFileDialog's completer does not survive the end of a file in
-    // its path.
-    Answerer answerer;
-    answerer.answer = false;
     Monkey monkey(seed);
+    Answerer answerer;
+    answerer.answer = [&monkey] { return monkey.mayDelete(); };
     int results = 0;
     for (int step = 0; step < steps; ++step) {
         monkey.step();
-        const QStringList outside = monkey.scene().outside();
+        const QStringList outside =
+            monkey.asked() + (step % 16 ? monkey.scene().outside() : monkey.scene().outsideOnceSettled());
         if (!outside.isEmpty()) {
             QFAIL(qPrintable(QStringLiteral("seed %1, step %2, after %3: %4")
                                  .arg(seed)

@@ -275,8 +275,11 @@ Answerer::Answerer()
 bool Answerer::eventFilter(QObject *watched, QEvent *event)
 {
     auto *box = qobject_cast<QMessageBox *>(watched);
-    if (box && event->type() == QEvent::Show)
-        QMetaObject::invokeMethod(box, answer ? &QDialog::accept : &QDialog::reject, Qt::QueuedConnection);
+    if (box && event->type() == QEvent::Show) {
+        const bool isQuestion = box->standardButtons().testFlag(QMessageBox::Yes);
+        QMetaObject::invokeMethod(box, isQuestion && answer() ? &QDialog::accept : &QDialog::reject,
+                                  Qt::QueuedConnection);
+    }
     return false;
 }
 

@@ -13,6 +13,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 #include <QUrl>
+#include <functional>
 #include <tarnwidgets/limitedfiledialog.h>
 
 namespace Tarn::Test {
@@ -122,7 +123,8 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    bool answer = true;
+    /*! Asked when a question comes, whether to say yes. */
+    std::function<bool()> answer = [] { return true; };
 };
 
 } // namespace Tarn::Test
