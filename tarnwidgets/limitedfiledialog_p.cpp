@@ -352,7 +352,8 @@ void LimitGuard::settleView(QAbstractItemView *view) const
     QModelIndex shown = m_model->index(m_model->rootPath());
     if (const auto *proxy = qobject_cast<const QAbstractProxyModel *>(view->model()))
         shown = proxy->mapFromSource(shown);
-    if (view->rootIndex() != shown)
+    // Filters that list no folders may leave the model without an index for the one that is shown.
+    if (shown.isValid() && view->rootIndex() != shown)
         view->setRootIndex(shown);
 }
 
@@ -371,9 +372,11 @@ void LimitGuard::dropForeignSelection(const QAbstractItemView *view, bool dots) 
         return;
     const QModelIndexList indexes = QModelIndexList(selection->selectedIndexes())
         << selection->currentIndex();
+    // Without a root a view shows the top of all folders, where everything is foreign.
+    const QModelIndex root = view->rootIndex();
     const bool foreign =
-        std::any_of(indexes.cbegin(), indexes.cend(), [view, dots](const QModelIndex &index) {
-            return index.isValid() && (index.parent() != view->rootIndex() || (dots && isDots(index)));
+        std::any_of(indexes.cbegin(), indexes.cend(), [root, dots](const QModelIndex &index) {
+            return index.isValid() && (!root.isValid() || index.parent() != root || (dots && isDots(index)));
         });
     if (foreign)
         selection->clear();
