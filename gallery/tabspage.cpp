@@ -143,6 +143,16 @@ QWidget *TabsPage::createSwitches()
     add(tr("Second tab enabled"), true,
         [this](bool on) { changeBars([=](TabBar *bar) { bar->setTabEnabled(1, on); }); });
     add(tr("Side widgets"), true, [this](bool on) { setSideWidgetsVisible(on); });
+    add(tr("Tool tips"), false, [this](bool on) {
+        changeTabs([on](TabBar *bar, int index) {
+            bar->setTabToolTip(index, on ? tr("This is tab %1").arg(index + 1) : QString());
+        });
+    });
+    add(tr("Tab buttons"), false, [this](bool on) {
+        changeTabs([on](TabBar *bar, int index) {
+            bar->setTabButton(index, QTabBar::LeftSide, on ? new QCheckBox : nullptr);
+        });
+    });
     return group;
 }
 
@@ -216,6 +226,14 @@ void TabsPage::changeBars(const std::function<void(TabBar *)> &change)
     change(m_tabs->getTabBar());
 }
 
+void TabsPage::changeTabs(const std::function<void(TabBar *, int)> &change)
+{
+    changeBars([&change](TabBar *bar) {
+        for (int index = 0; index < bar->count(); ++index)
+            change(bar, index);
+    });
+}
+
 void TabsPage::setSideWidgetsVisible(bool visible)
 {
     for (QWidget *widget : qAsConst(m_sideWidgets))
@@ -231,9 +249,8 @@ void TabsPage::setSpacing(int spacing)
 
 void TabsPage::setIconsVisible(bool visible)
 {
-    changeBars([this, visible](TabBar *bar) {
-        for (int index = 0; index < bar->count(); ++index)
-            bar->setTabIcon(index, visible ? iconOf(this) : QIcon());
+    changeTabs([this, visible](TabBar *bar, int index) {
+        bar->setTabIcon(index, visible ? iconOf(this) : QIcon());
     });
 }
 

@@ -40,6 +40,7 @@ private:
     QWidget *createActions();
 
     void changeBars(const std::function<void(TabBar *)> &change);
+    void changeTabs(const std::function<void(TabBar *, int)> &change);
     void setSideWidgetsVisible(bool visible);
     void setSpacing(int spacing);
     void setIconsVisible(bool visible);

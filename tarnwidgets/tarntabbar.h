@@ -183,7 +183,7 @@ public:
     QString tabText(int index) const;
     void setTabText(int index, const QString &text);
     QColor tabTextColor(int index) const;
-    void setTabTextColor(int index, const QColor &color);
+    void setTabTextColor(int index, const QColor &color); //!< Of no effect where a style sheet colours tabs.
     QIcon tabIcon(int index) const;
     void setTabIcon(int index, const QIcon &icon);
     QString tabToolTip(int index) const;

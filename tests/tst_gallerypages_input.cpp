@@ -148,6 +148,7 @@ private Q_SLOTS:
     void barSwitchesReachBothBars_data();
     void barSwitchesReachBothBars();
     void secondTabIsDisabledAndEnabled();
+    void toolTipsAndButtonsComeAndGo();
     void iconsComeAndGo();
     void sideWidgetsComeAndGo();
     void addButtonAddsATab();
@@ -328,6 +329,20 @@ void tst_GalleryPages_Input::secondTabIsDisabledAndEnabled()
         stage.setSwitch(QStringLiteral("Second tab enabled"), on);
         QVERIFY(tabs->isTabEnabled(0));
         QCOMPARE(tabs->isTabEnabled(1), on);
+    }
+}
+
+void tst_GalleryPages_Input::toolTipsAndButtonsComeAndGo()
+{
+    const Stage stage(QStringLiteral("tabs"));
+    const QList<TarnTabBar *> bars = stage.page->findChildren<TarnTabBar *>();
+    for (const bool on : {true, false}) {
+        for (const char *text : {"Tool tips", "Tab buttons"})
+            stage.setSwitch(QString::fromLatin1(text), on);
+        for (const TarnTabBar *bar : bars) {
+            QCOMPARE(bar->tabToolTip(2), on ? QStringLiteral("This is tab 3") : QString());
+            QCOMPARE(bar->tabButton(2, QTabBar::LeftSide) != nullptr, on);
+        }
     }
 }
 
