@@ -383,6 +383,9 @@ void tst_FramelessMessageBoxQt::everySetAgrees()
     FramelessMessageBox ours;
     QMessageBox qts;
     constexpr int Length = SetCount / Shards;
+    bool isShortened = false;
+    const int wishedSteps = qEnvironmentVariableIntValue("TARN_TEST_STEPS", &isShortened);
+    const int walked = isShortened ? qBound(1, wishedSteps / Shards, Length) : Length;
     int set = (shard * Length) ^ ((shard * Length) >> 1);
     ours.setStandardButtons(Buttons(set << 10));
     qts.setStandardButtons(Buttons(set << 10));
@@ -396,7 +399,7 @@ void tst_FramelessMessageBoxQt::everySetAgrees()
             qInfo("set %x", uint(set << 10));
             QCOMPARE(escaped, resultOfEscape(qts));
         }
-        if (step + 1 == (shard + 1) * Length)
+        if (step + 1 == shard * Length + walked)
             break;
         const int next = (step + 1) ^ ((step + 1) >> 1);
         const Button changed = Button((set ^ next) << 10);
