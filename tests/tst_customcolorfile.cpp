@@ -486,7 +486,7 @@ void tst_CustomColorFile::anyTextKeepsItsRest_data()
 
     // The generator's sequence is part of the C++ standard, so the texts are the same everywhere.
     std::minstd_rand random(1);
-    const QByteArray alphabet("\\,\"=;[]@%x0 \n\r\0customColor[General]1234567890", 47);
+    const QByteArray alphabet("\\,\"=;[]@%x0 \n\r\0customColor[General]1234567890", 45);
     for (int i = 0; i < 500; ++i) {
         QByteArray text;
         while (random() % 400 != 0)
