@@ -452,6 +452,7 @@ void tst_CustomColorFile::randomFilesAreTakenAsSettingsTakeThem()
     for (int i = 0; i < 200; ++i) {
         // GIVEN any mixture of what such files are made of
         const QByteArray text = randomText(random);
+        const std::unique_ptr<char[]> shown(QTest::toPrettyCString(text.constData(), text.size()));
         QVERIFY(putContents(path(), text));
         QMap<QString, QVariant> before = settingsOnDisk(path());
 
@@ -460,16 +461,15 @@ void tst_CustomColorFile::randomFilesAreTakenAsSettingsTakeThem()
         const QVariantList list = before.take(QStringLiteral("customColor")).toList().mid(0, Count);
         std::transform(list.cbegin(), list.cend(), colors.begin(),
                        [](const QVariant &value) { return value.toUInt(); });
-        QVERIFY2(readFrom(path()) == colors, QTest::toPrettyCString(text.constData(), text.size()));
+        QVERIFY2(readFrom(path()) == colors, shown.get());
 
         // and WHEN it is written, THEN QSettings finds our colours, and all else as before
         CustomColorText content(text);
         content.colors = QVector<QRgb>(Count, 7);
         QVERIFY(putContents(path(), content.text()));
         QMap<QString, QVariant> after = settingsOnDisk(path());
-        QVERIFY2(after.take(QStringLiteral("customColor")).toList().size() == Count,
-                 QTest::toPrettyCString(text.constData(), text.size()));
-        QVERIFY2(after == before, QTest::toPrettyCString(text.constData(), text.size()));
+        QVERIFY2(after.take(QStringLiteral("customColor")).toList().size() == Count, shown.get());
+        QVERIFY2(after == before, shown.get());
     }
 }
 
