@@ -40,12 +40,6 @@ QByteArray row(QRgb first)
     return numbers.join(' ');
 }
 
-/* What the program is to be run by, if not by the system itself. */
-QStringList launcher()
-{
-    return QStringLiteral(TARN_LAUNCHER).split(QLatin1Char(';'), Qt::SkipEmptyParts);
-}
-
 /* One in which Qt has nothing to complain of. */
 QProcessEnvironment environment(const QString &directory)
 {
@@ -61,11 +55,8 @@ class Program
 public:
     Program(const QString &path, const QStringList &arguments)
     {
-        QStringList command = launcher();
-        command.append(path);
-        command.append(arguments);
         m_process.setProcessEnvironment(environment(QFileInfo(path).path()));
-        m_process.start(command.takeFirst(), command);
+        m_process.start(path, arguments);
     }
 
     /* Whether it has got as far as to wait. */
@@ -397,7 +388,7 @@ void tst_ColorDialog_processes::fullDiskLeavesTheFile()
     const QByteArray before = "[General]\n" + line(Other) + others;
     QStringList arguments = {QStringLiteral("-rm"), QStringLiteral(TARN_ON_TINY_DISK), m_directory->path(),
                              QStringLiteral(TARN_COLORDIALOGPROCESS), QString::number(freeBlocks)};
-    arguments += launcher() + QStringList({program(), QString::number(One)});
+    arguments += {program(), QString::number(One)};
 
     // WHEN its dialog closes
     process.start(QStringLiteral("unshare"), arguments);
