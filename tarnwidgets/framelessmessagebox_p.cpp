@@ -17,6 +17,7 @@
 #include <QVBoxLayout>
 #include <QWindow>
 #include <QtMath>
+#include <memory>
 
 namespace Tarn::Widgets {
 
@@ -636,15 +637,14 @@ QMessageBox::StandardButton FramelessMessageBoxPrivate::execAndDelete(FramelessM
 {
     // Whoever deletes the parent meanwhile deletes the box, which is why it is not on the stack.
     const QPointer<FramelessMessageBox> alive(box);
-    QMessageBox::StandardButton answer = box->d->closingResult();
-    QObject context;
-    QObject::connect(box, &QDialog::finished, &context, [&answer, box] {
+    const auto answer = std::make_shared<QMessageBox::StandardButton>(box->d->closingResult());
+    QObject::connect(box, &QDialog::finished, box, [answer, box] {
         if (box->clickedButton())
-            answer = box->standardButton(box->clickedButton());
+            *answer = box->standardButton(box->clickedButton());
     });
     const int result = box->exec();
     if (!alive)
-        return answer;
+        return *answer;
     const QMessageBox::StandardButton clicked = box->standardButton(box->clickedButton());
     delete box;
     return result == -1 ? QMessageBox::Cancel : clicked;
