@@ -129,7 +129,8 @@ LimitGuard::LimitGuard(LimitedFileDialog *dialog)
         connect(newFolder, &QToolButton::pressed, this, &LimitGuard::settle);
 
     dialog->installEventFilter(this);
-    for (auto *view : fileViews(dialog)) {
+    const QList<QAbstractItemView *> views = fileViews(dialog);
+    for (auto *view : views) {
         view->installEventFilter(this);
         view->viewport()->installEventFilter(this);
     }
@@ -341,7 +342,8 @@ void LimitGuard::settle()
     if (m_roots.isEmpty() || m_shut)
         return;
     m_lastInside = shownFolder();
-    for (auto *view : fileViews(m_dialog))
+    const QList<QAbstractItemView *> views = fileViews(m_dialog);
+    for (auto *view : views)
         settleView(view);
 }
 
@@ -361,7 +363,8 @@ void LimitGuard::settleView(QAbstractItemView *view) const
 // The entries of dots stand for folders above, too, but may be walked over and entered.
 void LimitGuard::dropForeignSelections(bool dots) const
 {
-    for (const auto *view : fileViews(m_dialog))
+    const QList<QAbstractItemView *> views = fileViews(m_dialog);
+    for (const auto *view : views)
         dropForeignSelection(view, dots);
 }
 
