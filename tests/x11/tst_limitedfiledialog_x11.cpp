@@ -14,6 +14,7 @@
 #include <optional>
 #include <support/confined.h>
 #include <support/modaldriver.h>
+#include <utility>
 
 using namespace Tarn::Test;
 using Tarn::Widgets::LimitedFileDialog;
@@ -76,11 +77,16 @@ private:
         return m_desktop->input.click(m_desktop->center(widget));
     }
 
-    /*! Where an entry is on the screen; waits for it. */
+    /*! Where an entry is on the screen; waits for it, and until those before it have come. */
     QPoint entry(const FileDialogParts &parts, const QString &name) const
     {
-        return parts.hasEntry(name) ? parts.view()->viewport()->mapToGlobal(parts.place(parts.view(), name))
-                                    : QPoint(-1, -1);
+        QPoint place;
+        const auto isSettled = [&] {
+            const QPoint before = std::exchange(place, parts.place(parts.view(), name));
+            return !place.isNull() && place == before;
+        };
+        return parts.isLoaded() && QTest::qWaitFor(isSettled) ? parts.view()->viewport()->mapToGlobal(place)
+                                                              : QPoint(-1, -1);
     }
 
     bool clickEntry(const FileDialogParts &parts, const char *name)
