@@ -7,6 +7,9 @@
 
 namespace Tarn::Widgets {
 
+class ChangedNoticeLineEditPrivate
+{};
+
 ChangedNoticeLineEdit::ChangedNoticeLineEdit(QWidget *parent)
     : QLineEdit(parent)
 {

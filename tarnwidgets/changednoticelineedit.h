@@ -7,8 +7,11 @@
 #include "tarnwidgets_export.h"
 
 #include <QLineEdit>
+#include <memory>
 
 namespace Tarn::Widgets {
+
+class ChangedNoticeLineEditPrivate;
 
 /*!
  * \brief A line edit that tells a form when the user has left it.
@@ -45,6 +48,9 @@ Q_SIGNALS:
 
 protected:
     void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    const std::unique_ptr<ChangedNoticeLineEditPrivate> d; // null: room for state that a later version adds
 };
 
 } // namespace Tarn::Widgets

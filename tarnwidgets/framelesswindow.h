@@ -47,7 +47,7 @@ class TARNWIDGETS_EXPORT FramelessWindow : public Tarn::Utils::AppMainWindow
     Q_OBJECT
 
 public:
-    enum eDirection { eLeft = 0, eTop = 1, eRight = 2, eBottom = 3, eNormal = 4 };
+    enum eDirection : int { eLeft = 0, eTop = 1, eRight = 2, eBottom = 3, eNormal = 4 };
     Q_ENUM(eDirection)
 
     explicit FramelessWindow(QWidget *parent = nullptr);

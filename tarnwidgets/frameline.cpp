@@ -20,6 +20,9 @@ QFrame *createLine(const QString &propertyName, QWidget *parent, const uint &lin
 
 } // namespace
 
+class FrameLinePrivate
+{};
+
 FrameLine::FrameLine(QObject *parent)
     : QObject(parent)
 {

@@ -7,11 +7,14 @@
 #include "tarnwidgets_export.h"
 
 #include <QObject>
+#include <memory>
 
 class QFrame;
 class QWidget;
 
 namespace Tarn::Widgets {
+
+class FrameLinePrivate;
 
 /*!
  * \brief Makes thin separator lines whose look comes from the style sheet.
@@ -49,6 +52,9 @@ public:
      * without a style rule. */
     static QFrame *createVerticalLine(const QString &propertyName, QWidget *parent, const uint &lineWidth,
                                       const uint &crossMargin, const uint &endMargin);
+
+private:
+    const std::unique_ptr<FrameLinePrivate> d; // null: room for state that a later version adds
 };
 
 } // namespace Tarn::Widgets

@@ -9,6 +9,9 @@
 
 namespace Tarn::Widgets {
 
+class StyleSheetWidgetPrivate
+{};
+
 StyleSheetWidget::StyleSheetWidget(QWidget *parent)
     : QWidget(parent)
 {

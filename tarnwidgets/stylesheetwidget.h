@@ -7,8 +7,11 @@
 #include "tarnwidgets_export.h"
 
 #include <QWidget>
+#include <memory>
 
 namespace Tarn::Widgets {
+
+class StyleSheetWidgetPrivate;
 
 /*!
  * \brief A plain widget whose background, border and border image the style sheet can paint.
@@ -34,6 +37,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    const std::unique_ptr<StyleSheetWidgetPrivate> d; // null: room for state that a later version adds
 };
 
 } // namespace Tarn::Widgets

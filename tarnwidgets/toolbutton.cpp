@@ -7,6 +7,9 @@
 
 namespace Tarn::Widgets {
 
+class ToolButtonPrivate
+{};
+
 ToolButton::ToolButton(QWidget *parent)
     : QToolButton(parent)
 {

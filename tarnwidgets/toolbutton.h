@@ -7,8 +7,11 @@
 #include "tarnwidgets_export.h"
 
 #include <QToolButton>
+#include <memory>
 
 namespace Tarn::Widgets {
+
+class ToolButtonPrivate;
 
 /*!
  * \brief A tool button that does not go on looking hovered once its menu has closed.
@@ -45,6 +48,9 @@ public Q_SLOTS:
     /*! Takes the button as hovered if the pointer is over it now, whatever lies in between, and as not
      * hovered otherwise. */
     void recover();
+
+private:
+    const std::unique_ptr<ToolButtonPrivate> d; // null: room for state that a later version adds
 };
 
 } // namespace Tarn::Widgets
