@@ -29,6 +29,7 @@ class TarnTabBarPrivate;
 class TARNWIDGETS_EXPORT TabBarRd : public QTabBar
 {
     Q_OBJECT
+    Q_PROPERTY(TabBarType tabBarType READ getTabBarType WRITE setTabBarType)
 
 public:
     /*! How wide the tabs are. */
@@ -95,6 +96,14 @@ private:
 class TARNWIDGETS_EXPORT TarnTabBar : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(Tarn::Widgets::TabBarRd::TabBarType tabBarType READ getTabBarType WRITE setTabBarType)
+    Q_PROPERTY(bool autoHide READ autoHide WRITE setAutoHide)
+    Q_PROPERTY(bool expanding READ expanding WRITE setExpanding)
+    Q_PROPERTY(bool movable READ isMovable WRITE setMovable)
+    Q_PROPERTY(bool tabsClosable READ tabsClosable WRITE setTabsClosable)
+    Q_PROPERTY(bool usesScrollButtons READ usesScrollButtons WRITE setUsesScrollButtons)
+    Q_PROPERTY(Qt::TextElideMode elideMode READ elideMode WRITE setElideMode)
+    Q_PROPERTY(QSize iconSize READ iconSize WRITE setIconSize)
 
 public:
     explicit TarnTabBar(QWidget *parent = nullptr);

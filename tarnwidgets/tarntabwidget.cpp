@@ -127,6 +127,17 @@ int TarnTabWidget::addTab(QWidget *page, const QIcon &icon, const QString &text)
     return insertTab(-1, page, icon, text);
 }
 
+void TarnTabWidget::addPage(QWidget *page)
+{
+    if (!page)
+        return;
+    d->m_pStack->addWidget(page);
+    // The bar inside: the frame around it would make the new tab the current one.
+    d->m_pTabBar->getTabBar()->addTab(page->windowTitle());
+    connect(page, &QWidget::windowTitleChanged, this,
+            [this, page](const QString &title) { d->m_pTabBar->setTabText(indexOf(page), title); });
+}
+
 // The bar follows the stack, so that whoever hears of a new current tab finds its page.
 void TarnTabWidget::removeTab(int index)
 {

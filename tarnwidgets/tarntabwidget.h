@@ -47,6 +47,14 @@ class TarnTabWidgetPrivate;
 class TARNWIDGETS_EXPORT TarnTabWidget : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentIndex NOTIFY currentChanged)
+    Q_PROPERTY(Tarn::Widgets::TabBarRd::TabBarType tabBarType READ getTabBarType WRITE setTabBarType)
+    Q_PROPERTY(bool autoHide READ autoHide WRITE setAutoHide)
+    Q_PROPERTY(bool movable READ isMovable WRITE setMovable)
+    Q_PROPERTY(bool tabsClosable READ tabsClosable WRITE setTabsClosable)
+    Q_PROPERTY(bool usesScrollButtons READ usesScrollButtons WRITE setUsesScrollButtons)
+    Q_PROPERTY(Qt::TextElideMode elideMode READ elideMode WRITE setElideMode)
+    Q_PROPERTY(QSize iconSize READ iconSize WRITE setIconSize)
 
 public:
     explicit TarnTabWidget(QWidget *parent = nullptr);
@@ -152,6 +160,13 @@ public Q_SLOTS:
 
     /*! A widget that is no page is ignored. */
     void setCurrentWidget(QWidget *page);
+
+    /*!
+     * Adds \a page behind the others with its window title as the tab's text, which
+     * from then on follows that title. Forms add their pages so. Unlike addTab() it
+     * leaves the current page as it is, unless there was none. Null is ignored.
+     */
+    void addPage(QWidget *page);
 
     /*! Shows the page at \a index; the bar is not told. Comes by itself when another tab becomes current. */
     void slot_currentShow(int index);

@@ -51,6 +51,7 @@ class TitleBarPrivate;
 class TARNWIDGETS_EXPORT TitleBar : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(QString title READ title WRITE setTitle)
 
 public:
     /*! The logo shows the application's window icon, if there is one. */

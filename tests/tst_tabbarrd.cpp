@@ -79,6 +79,7 @@ private Q_SLOTS:
 
     void newBarIsNormalWithoutWidths();
     void typesHaveTheirNumbers();
+    void typeIsAPropertyWithNames();
     void normalTabsHaveQtsHints();
     void evenHintIsTheSharedWidthAndTheHeight_data();
     void evenHintIsTheSharedWidthAndTheHeight();
@@ -119,6 +120,16 @@ void tst_TabBarRd::typesHaveTheirNumbers()
     QCOMPARE(int(TabBarRd::Even), 1);
     QCOMPARE(sizeof(TabBarRd::TabBarType), sizeof(int));
     QCOMPARE(QMetaEnum::fromType<TabBarRd::TabBarType>().keyCount(), 2);
+}
+
+void tst_TabBarRd::typeIsAPropertyWithNames()
+{
+    TabBarRd bar;
+
+    QVERIFY(bar.setProperty("tabBarType", QStringLiteral("Even")));
+
+    QCOMPARE(bar.getTabBarType(), TabBarRd::Even);
+    QCOMPARE(bar.property("tabBarType").toInt(), int(TabBarRd::Even));
 }
 
 void tst_TabBarRd::normalTabsHaveQtsHints()

@@ -216,6 +216,8 @@ private Q_SLOTS:
     void areasAreCentredOnDemand();
 
     // The bar
+    void propertiesAreThoseOfQTabBar_data();
+    void propertiesAreThoseOfQTabBar();
     void everyOperationDoesWhatQTabBarDoes_data();
     void everyOperationDoesWhatQTabBarDoes();
     void anyMixtureOfOperationsDoesWhatQTabBarDoes();
@@ -282,7 +284,6 @@ void tst_TarnTabBar::onlyTheTwoSignalsAreDeclared()
     const QMetaObject &meta = TarnTabBar::staticMetaObject;
     QCOMPARE(meta.className(), "Tarn::Widgets::TarnTabBar");
     QCOMPARE(meta.superClass(), &QFrame::staticMetaObject);
-    QCOMPARE(meta.propertyCount(), QFrame::staticMetaObject.propertyCount());
     QVERIFY(meta.indexOfSignal("currentChanged(int)") >= 0);
     QVERIFY(meta.indexOfSignal("tabCloseRequested(int)") >= 0);
     for (const char *slot : {"slot_currIndexChanged(int)", "slot_tabClosed(int)"}) {
@@ -489,6 +490,41 @@ void tst_TarnTabBar::areasAreCentredOnDemand()
     for (const QPushButton *button : buttons)
         QCOMPARE(button->y(), 22);
     QCOMPARE(frame.getTabBar()->height(), 60);
+}
+
+void tst_TarnTabBar::propertiesAreThoseOfQTabBar_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QVariant>("value");
+
+    QTest::newRow("type") << QByteArray("tabBarType") << QVariant::fromValue(TabBarRd::Even);
+    QTest::newRow("hides itself") << QByteArray("autoHide") << QVariant(true);
+    QTest::newRow("expanding") << QByteArray("expanding") << QVariant(false);
+    QTest::newRow("movable") << QByteArray("movable") << QVariant(true);
+    QTest::newRow("closable") << QByteArray("tabsClosable") << QVariant(true);
+    QTest::newRow("scroll buttons") << QByteArray("usesScrollButtons") << QVariant(false);
+    QTest::newRow("elision") << QByteArray("elideMode") << QVariant::fromValue(Qt::ElideMiddle);
+    QTest::newRow("icons") << QByteArray("iconSize") << QVariant(QSize(37, 29));
+}
+
+void tst_TarnTabBar::propertiesAreThoseOfQTabBar()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QVariant, value);
+
+    // GIVEN one whose bar inside has another value
+    TarnTabBar widget;
+    const QObject *bar = widget.getTabBar();
+    QVERIFY(widget.metaObject()->indexOfProperty(name.constData())
+            >= 0); // else it would become a dynamic one
+    QVERIFY(bar->property(name.constData()) != value);
+
+    // WHEN the property is set
+    QVERIFY(widget.setProperty(name.constData(), value));
+
+    // THEN that is the bar's, and it can be read again
+    QCOMPARE(bar->property(name.constData()), value);
+    QCOMPARE(widget.property(name.constData()), value);
 }
 
 void tst_TarnTabBar::everyOperationDoesWhatQTabBarDoes_data()

@@ -7,6 +7,7 @@
 #include <QFontMetrics>
 #include <QImage>
 #include <QLineEdit>
+#include <QMetaProperty>
 #include <QPixmap>
 #include <QPointer>
 #include <QSet>
@@ -160,6 +161,8 @@ private Q_SLOTS:
 
     // Pages
     void addedPageBecomesCurrent();
+    void pageAddedByItsTitleLeavesTheCurrentOne();
+    void tabFollowsTheTitleOfItsPage();
     void insertionMakesTheLastPageCurrent_data();
     void insertionMakesTheLastPageCurrent();
     void insertionTakesIcons();
@@ -176,6 +179,7 @@ private Q_SLOTS:
 
     // The current page
     void setCurrentIndexShowsThePage();
+    void currentIndexIsAPropertyThatNotifies();
     void setCurrentWidgetShowsItsTab();
     void unknownPagesAndIndicesAreIgnored();
     void clickOnATabShowsItsPage();
@@ -219,6 +223,8 @@ private Q_SLOTS:
     void barIsNoWiderThanTheWidget();
     void widgetWithEvenTabsGetsNarrowerAgain();
     void tabOperationsAreTheBars();
+    void propertiesAreThoseOfQTabBar_data();
+    void propertiesAreThoseOfQTabBar();
 
 private:
     std::optional<FunctionGuard> m_guard;
@@ -253,7 +259,6 @@ void tst_TarnTabWidget::signalsAndSlotsAreDeclared()
     const QMetaObject &meta = TarnTabWidget::staticMetaObject;
     QCOMPARE(meta.className(), "Tarn::Widgets::TarnTabWidget");
     QCOMPARE(meta.superClass(), &QFrame::staticMetaObject);
-    QCOMPARE(meta.propertyCount(), QFrame::staticMetaObject.propertyCount());
     QVERIFY(meta.indexOfSignal("currentChanged(int)") >= 0);
     QVERIFY(meta.indexOfSignal("tabCloseRequested(int)") >= 0);
     for (const char *slot : {"slot_currentShow(int)", "slot_tabCloseRequested(int)"}) {
@@ -288,6 +293,51 @@ void tst_TarnTabWidget::addedPageBecomesCurrent()
     QCOMPARE(changes.count(), 2);
     QCOMPARE(changes.at(0).constFirst().toInt(), 0);
     QCOMPARE(changes.at(1).constFirst().toInt(), 1);
+}
+
+void tst_TarnTabWidget::pageAddedByItsTitleLeavesTheCurrentOne()
+{
+    // GIVEN an empty widget
+    Tabs tabs;
+    const QSignalSpy changes(&tabs.widget, &TarnTabWidget::currentChanged);
+
+    // WHEN pages are added by their titles
+    for (const QString &name : {QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")}) {
+        auto *page = new Page(name);
+        page->setWindowTitle(name);
+        tabs.widget.addPage(page);
+    }
+    tabs.widget.addPage(nullptr);
+
+    // THEN they stand in this order, and the first is on show
+    QCOMPARE(tabs.names(), QStringLiteral("ABC"));
+    QCOMPARE(tabs.widget.currentIndex(), 0);
+    QVERIFY(tabs.areInStep());
+    QCOMPARE(changes.count(), 1);
+}
+
+void tst_TarnTabWidget::tabFollowsTheTitleOfItsPage()
+{
+    // GIVEN a page that had no title when it was added, and another before it since
+    TarnTabWidget widget;
+    auto *page = new QWidget;
+    widget.addPage(page);
+    QCOMPARE(widget.tabText(0), QString());
+    widget.insertTab(0, new QWidget, QStringLiteral("Valves"));
+
+    // WHEN it gets a title
+    page->setWindowTitle(QStringLiteral("Pumps"));
+
+    // THEN that is the text of its tab
+    QCOMPARE(widget.tabText(1), QStringLiteral("Pumps"));
+
+    // WHEN it gets another one after its tab was removed
+    widget.removeTab(1);
+    page->setWindowTitle(QStringLiteral("Tanks"));
+
+    // THEN no tab changes
+    QCOMPARE(widget.count(), 1);
+    QCOMPARE(widget.tabText(0), QStringLiteral("Valves"));
 }
 
 void tst_TarnTabWidget::insertionMakesTheLastPageCurrent_data()
@@ -492,6 +542,19 @@ void tst_TarnTabWidget::setCurrentIndexShowsThePage()
     // What it is already is no change.
     tabs.widget.setCurrentIndex(1);
     QCOMPARE(changes.count(), 3);
+}
+
+void tst_TarnTabWidget::currentIndexIsAPropertyThatNotifies()
+{
+    Tabs tabs(3);
+    const QMetaProperty property = TarnTabWidget::staticMetaObject.property(
+        TarnTabWidget::staticMetaObject.indexOfProperty("currentIndex"));
+    QCOMPARE(property.read(&tabs.widget), QVariant(2));
+
+    QVERIFY(property.write(&tabs.widget, 1));
+
+    QCOMPARE(tabs.widget.currentIndex(), 1);
+    QCOMPARE(property.notifySignal().name(), QByteArray("currentChanged"));
 }
 
 void tst_TarnTabWidget::setCurrentWidgetShowsItsTab()
@@ -1145,6 +1208,40 @@ void tst_TarnTabWidget::tabOperationsAreTheBars()
     widget.setTabBarType(TabBarRd::Even);
     QCOMPARE(bar.getTabBarType(), TabBarRd::Even);
     QCOMPARE(widget.getTabBarType(), TabBarRd::Even);
+}
+
+void tst_TarnTabWidget::propertiesAreThoseOfQTabBar_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QVariant>("value");
+
+    QTest::newRow("type") << QByteArray("tabBarType") << QVariant::fromValue(TabBarRd::Even);
+    QTest::newRow("hides itself") << QByteArray("autoHide") << QVariant(true);
+    QTest::newRow("movable") << QByteArray("movable") << QVariant(true);
+    QTest::newRow("closable") << QByteArray("tabsClosable") << QVariant(true);
+    QTest::newRow("scroll buttons") << QByteArray("usesScrollButtons") << QVariant(false);
+    QTest::newRow("elision") << QByteArray("elideMode") << QVariant::fromValue(Qt::ElideMiddle);
+    QTest::newRow("icons") << QByteArray("iconSize") << QVariant(QSize(37, 29));
+}
+
+void tst_TarnTabWidget::propertiesAreThoseOfQTabBar()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QVariant, value);
+
+    // GIVEN one whose bar inside has another value
+    TarnTabWidget widget;
+    const QObject *bar = widget.getTabBar()->getTabBar();
+    QVERIFY(widget.metaObject()->indexOfProperty(name.constData())
+            >= 0); // else it would become a dynamic one
+    QVERIFY(bar->property(name.constData()) != value);
+
+    // WHEN the property is set
+    QVERIFY(widget.setProperty(name.constData(), value));
+
+    // THEN that is the bar's, and it can be read again
+    QCOMPARE(bar->property(name.constData()), value);
+    QCOMPARE(widget.property(name.constData()), value);
 }
 
 QTEST_MAIN(tst_TarnTabWidget)

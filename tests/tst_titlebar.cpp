@@ -186,6 +186,7 @@ private Q_SLOTS:
 
     // The title
     void titleIsTheTextOfTheLabel();
+    void titleIsAProperty();
     void titleIsShownAsPlainText();
     void titleInAnotherFormatIsLeftToTheLabel();
     void longTitleIsElidedAndDoesNotWidenTheBar();
@@ -412,6 +413,16 @@ void tst_TitleBar::titleIsTheTextOfTheLabel()
 
     bar.setTitleAlignment(Qt::AlignRight | Qt::AlignBottom);
     QCOMPARE(bar.titleLabel()->alignment(), Qt::AlignRight | Qt::AlignBottom);
+}
+
+void tst_TitleBar::titleIsAProperty()
+{
+    TitleBar bar;
+
+    QVERIFY(bar.setProperty("title", QStringLiteral("Monitor")));
+
+    QCOMPARE(bar.title(), QStringLiteral("Monitor"));
+    QCOMPARE(bar.property("title"), QVariant(QStringLiteral("Monitor")));
 }
 
 void tst_TitleBar::titleIsShownAsPlainText()
