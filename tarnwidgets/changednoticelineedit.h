@@ -14,6 +14,7 @@ namespace Tarn::Widgets {
 class ChangedNoticeLineEditPrivate;
 
 /*!
+ * \ingroup input
  * \brief A line edit that tells a form when the user has left it.
  *
  * Use it where a value is checked or stored on leaving the field rather than on

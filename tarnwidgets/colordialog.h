@@ -15,6 +15,7 @@ namespace Tarn::Widgets {
 class ColorDialogPrivate;
 
 /*!
+ * \ingroup colour
  * \brief A dialog to choose a colour in, with sixteen custom colours that outlive the program.
  *
  * Use it instead of QColorDialog where windows draw their own frame, or where

@@ -21,6 +21,7 @@ class FramelessDialogPrivate;
 class TitleBar;
 
 /*!
+ * \ingroup frameless
  * \brief A dialog that draws its own title bar and border, with OK, Cancel and Apply at the bottom.
  *
  * Use it, or derive from it, instead of QDialog where the window manager's frame

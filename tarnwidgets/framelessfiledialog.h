@@ -23,6 +23,7 @@ namespace Tarn::Widgets {
 class FramelessFileDialogPrivate;
 
 /*!
+ * \ingroup filedialogs
  * \brief A QFileDialog in a FramelessDialog.
  *
  * Use it where the application's other dialogs are frameless ones. It holds Qt's

@@ -16,6 +16,7 @@ namespace Tarn::Widgets {
 class FramelessHelperPrivate;
 
 /*!
+ * \ingroup frameless
  * \brief Moves and resizes top-level widgets that have no window-manager frame.
  *
  * The helper watches the mouse over each widget handed to activateOn(): a left

@@ -18,6 +18,7 @@ namespace Tarn::Widgets {
 class FramelessMessageBoxPrivate;
 
 /*!
+ * \ingroup messagebox
  * \brief A message box in a FramelessDialog.
  *
  * Whoever knows QMessageBox knows this one: it has the same enumerations,

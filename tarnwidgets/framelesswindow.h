@@ -17,6 +17,7 @@ class FramelessWindowPrivate;
 class TitleBar;
 
 /*!
+ * \ingroup frameless
  * \brief An application's main window that draws its own title bar.
  *
  * Use it instead of QMainWindow where the window manager's frame is not wanted.

@@ -17,6 +17,7 @@ namespace Tarn::Widgets {
 class FrameLinePrivate;
 
 /*!
+ * \ingroup styles
  * \brief Makes thin separator lines whose look comes from the style sheet.
  *
  * Use it instead of a bare QFrame where one style rule is to paint all

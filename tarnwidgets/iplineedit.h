@@ -14,6 +14,7 @@ namespace Tarn::Widgets {
 class IPLineEditPrivate;
 
 /*!
+ * \ingroup input
  * \brief Edits an IPv4 address as four numbers with dots between them.
  *
  * The arrow keys, Backspace and the full stop lead from number to number, and

@@ -14,6 +14,7 @@ namespace Tarn::Widgets {
 class LimitedFileDialogPrivate;
 
 /*!
+ * \ingroup filedialogs
  * \brief A file dialog that keeps the user inside one folder, or two.
  *
  * Use it where a user is meant to find files below a given folder and would

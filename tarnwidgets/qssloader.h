@@ -9,6 +9,7 @@
 #include <QString>
 
 /*!
+ * \ingroup styles
  * \brief Reads a style sheet file into a string.
  *
  * Unlike the classes around it, it lives outside the library's namespace.

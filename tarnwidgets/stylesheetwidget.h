@@ -14,6 +14,7 @@ namespace Tarn::Widgets {
 class StyleSheetWidgetPrivate;
 
 /*!
+ * \ingroup styles
  * \brief A plain widget whose background, border and border image the style sheet can paint.
  *
  * Use it, or derive from it, instead of QWidget for panels that a style sheet

@@ -14,6 +14,7 @@ namespace Tarn::Widgets {
 class TarnPushButtonPrivate;
 
 /*!
+ * \ingroup input
  * \brief A push button for narrow vertical strips, with its text turned by 90 degrees.
  *
  * A text that is longer than the button is high ends in an ellipsis, and the

@@ -16,6 +16,7 @@ class TabBarRdPrivate;
 class TarnTabBarPrivate;
 
 /*!
+ * \ingroup input
  * \brief A QTabBar whose tabs can share its whole width evenly.
  *
  * Use it for a bare bar; TarnTabBar puts one into a frame with room for other
@@ -73,6 +74,7 @@ private:
 };
 
 /*!
+ * \ingroup input
  * \brief A tab bar with room for other widgets to its left, right behind its tabs, and at the far right.
  *
  * Use it instead of a QTabBar where buttons belong into the strip of tabs, such

@@ -17,6 +17,7 @@ namespace Tarn::Widgets {
 class TarnTabWidgetPrivate;
 
 /*!
+ * \ingroup input
  * \brief Pages under a TarnTabBar: tab i shows page i.
  *
  * Use it instead of a QTabWidget where the strip of tabs is to hold other

@@ -21,6 +21,7 @@ namespace Tarn::Widgets {
 class TitleBarPrivate;
 
 /*!
+ * \ingroup frameless
  * \brief The caption strip of a window that draws its own frame.
  *
  * From left to right: a logo button, the title, room for extra buttons, and the

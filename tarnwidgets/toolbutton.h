@@ -14,6 +14,7 @@ namespace Tarn::Widgets {
 class ToolButtonPrivate;
 
 /*!
+ * \ingroup input
  * \brief A tool button that does not go on looking hovered once its menu has closed.
  *
  * A QToolButton looks hovered until it hears that the pointer has left, and goes
