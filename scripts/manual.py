@@ -104,3 +104,8 @@ def public_classes():
         for name in re.findall(r"^class TARNWIDGETS_EXPORT (\w+)", text, re.MULTILINE):
             classes[name] = f"{match.group(1)}::{name}" if match else name
     return classes
+
+
+def pages():
+    """The pages for users: the README, the manual, the themes'."""
+    return [TOP / "README.md", *sorted((TOP / "docs").glob("*.md")), TOP / "themes/README.md"]
