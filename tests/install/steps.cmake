@@ -18,8 +18,8 @@ function(run)
     endif()
 endfunction()
 
-# build(source binary option...): configures and builds a CMake project.
-function(build source binary)
+# configure(source binary option...): configures a CMake project.
+function(configure source binary)
     file(REMOVE_RECURSE ${binary})
     run(${CMAKE_COMMAND} -S ${source} -B ${binary} -G ${GENERATOR}
         -DCMAKE_BUILD_TYPE=${CONFIG}
@@ -27,6 +27,11 @@ function(build source binary)
         -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}
         -DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF
         ${ARGN})
+endfunction()
+
+# build(source binary option...): configures and builds a CMake project.
+function(build source binary)
+    configure(${source} ${binary} ${ARGN})
     run(${CMAKE_COMMAND} --build ${binary} --config ${CONFIG})
 endfunction()
 
@@ -136,14 +141,60 @@ function(build_by_pkgconfig binary prefix)
 endfunction()
 
 function(step_qmake)
-    set(binary ${SCRATCH_DIR}/qmake)
+    set(ENV{PKG_CONFIG_PATH} ${prefix}/${LIBDIR}/pkgconfig)
+    build_by_qmake(${SCRATCH_DIR}/qmake ${here}/consumer/consumer.pro)
+    set(ENV{LD_LIBRARY_PATH} ${prefix}/${LIBDIR})
+    check_consumer(${SCRATCH_DIR}/qmake/consumer "stand-in")
+endfunction()
+
+# build_by_qmake(binary project option...)
+function(build_by_qmake binary project)
     file(REMOVE_RECURSE ${binary})
     file(MAKE_DIRECTORY ${binary})
-    set(ENV{PKG_CONFIG_PATH} ${prefix}/${LIBDIR}/pkgconfig)
-    run(${CMAKE_COMMAND} -E chdir ${binary} ${QMAKE} ${here}/consumer/consumer.pro QMAKE_CXX=${CXX} QMAKE_LINK=${CXX})
+    run(${CMAKE_COMMAND} -E chdir ${binary} ${QMAKE} ${project} QMAKE_CXX=${CXX} QMAKE_LINK=${CXX} ${ARGN})
     run(make -C ${binary})
+endfunction()
+
+# What comes with the library is enough: pkg-config knows nothing.
+function(step_qmake_pri)
+    set(ENV{PKG_CONFIG_LIBDIR} ${SCRATCH_DIR})
+    build_by_qmake(${SCRATCH_DIR}/qmake-pri ${here}/consumer/consumer-pri.pro
+        TARNWIDGETS_PRI=${prefix}/${LIBDIR}/tarnwidgets/tarnwidgets.pri)
     set(ENV{LD_LIBRARY_PATH} ${prefix}/${LIBDIR})
-    check_consumer(${binary}/consumer "stand-in")
+    check_consumer(${SCRATCH_DIR}/qmake-pri/consumer "stand-in")
+endfunction()
+
+# The library as a part of an application's own build, and what that installs.
+function(step_subproject)
+    build(${here}/subproject ${SCRATCH_DIR}/subproject -DTARNWIDGETS_SOURCE=${PROJECT_DIR})
+    check_consumer(${SCRATCH_DIR}/subproject/consumer "stand-in")
+    install(${SCRATCH_DIR}/subproject ${SCRATCH_DIR}/subproject-prefix)
+    build(${here}/consumer ${SCRATCH_DIR}/subproject-cmake -DCMAKE_PREFIX_PATH=${SCRATCH_DIR}/subproject-prefix)
+    check_consumer(${SCRATCH_DIR}/subproject-cmake/consumer "stand-in")
+endfunction()
+
+# The pieces of CMake and qmake in the manual, each as a project of an application.
+function(step_examples)
+    file(GLOB projects ${EXAMPLES}/*)
+    if(NOT projects)
+        message(FATAL_ERROR "no examples in ${EXAMPLES}")
+    endif()
+    set(ENV{PKG_CONFIG_PATH} ${prefix}/${LIBDIR}/pkgconfig)
+    foreach(project IN LISTS projects)
+        get_filename_component(name ${project} NAME)
+        message("${name}")
+        file(COPY ${here}/consumer/main.cpp ${here}/consumer/dialog.cpp DESTINATION ${project})
+        if(EXISTS ${project}/project.pro)
+            build_by_qmake(${SCRATCH_DIR}/examples/${name} ${project}/project.pro
+                CONFIG+=c++17 SOURCES+=dialog.cpp TARN=${prefix})
+        else()
+            file(MAKE_DIRECTORY ${project}/third-party)
+            file(CREATE_LINK ${PROJECT_DIR} ${project}/third-party/tarnwidgets SYMBOLIC)
+            configure(${project} ${SCRATCH_DIR}/examples/${name}
+                -DCMAKE_PREFIX_PATH=${prefix}
+                -DFETCHCONTENT_SOURCE_DIR_TARNWIDGETS=${PROJECT_DIR})
+        endif()
+    endforeach()
 endfunction()
 
 # use_device_utils(scratch with_package): the whole project on a utils library that was there before.
@@ -210,6 +261,12 @@ elseif(STEP STREQUAL "pkgconfig")
     step_pkgconfig()
 elseif(STEP STREQUAL "qmake")
     step_qmake()
+elseif(STEP STREQUAL "qmake_pri")
+    step_qmake_pri()
+elseif(STEP STREQUAL "subproject")
+    step_subproject()
+elseif(STEP STREQUAL "examples")
+    step_examples()
 elseif(STEP STREQUAL "file_dialog")
     step_file_dialog()
 elseif(STEP STREQUAL "device_package")
