@@ -219,6 +219,14 @@ function(use_device_utils scratch with_package)
 
     build_by_pkgconfig(${scratch}/pkgconfig ${scratch}/prefix ${consumer_sources})
     check_consumer(${scratch}/pkgconfig/consumer "device")
+
+    # The device's own library lies in another place here, which the .pri file cannot know.
+    build_by_qmake(${scratch}/qmake ${here}/consumer/consumer-pri.pro
+        TARNWIDGETS_PRI=${scratch}/prefix/${LIBDIR}/tarnwidgets/tarnwidgets.pri
+        INCLUDEPATH+=${scratch}/device/include
+        INCLUDEPATH+=${scratch}/device/include/tarnutils
+        LIBS+=-L${scratch}/device/${LIBDIR})
+    check_consumer(${scratch}/qmake/consumer "device")
 endfunction()
 
 function(step_device_package)
