@@ -1,0 +1,218 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN">
+<context>
+    <name>Tarn::Widgets::ColorDialog</name>
+    <message>
+        <source>颜色编辑器</source>
+        <translation>颜色编辑器</translation>
+    </message>
+    <message>
+        <source>基本颜色</source>
+        <translation>基本颜色</translation>
+    </message>
+    <message>
+        <source>自定义颜色</source>
+        <translation>自定义颜色</translation>
+    </message>
+    <message>
+        <source>添加到自定义颜色</source>
+        <translation>添加到自定义颜色</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>色调:</source>
+        <translation>色调:</translation>
+    </message>
+    <message>
+        <source>饱和度:</source>
+        <translation>饱和度:</translation>
+    </message>
+    <message>
+        <source>灰度:</source>
+        <translation>灰度:</translation>
+    </message>
+    <message>
+        <source>红:</source>
+        <translation>红:</translation>
+    </message>
+    <message>
+        <source>绿:</source>
+        <translation>绿:</translation>
+    </message>
+    <message>
+        <source>蓝:</source>
+        <translation>蓝:</translation>
+    </message>
+    <message>
+        <source>Alpha通道:</source>
+        <translation>Alpha通道:</translation>
+    </message>
+    <message>
+        <source>HTML:</source>
+        <translation>HTML:</translation>
+    </message>
+</context>
+<context>
+    <name>Tarn::Widgets::FramelessDialog</name>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>应用</translation>
+    </message>
+</context>
+<context>
+    <name>Tarn::Widgets::FramelessMessageBox</name>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save All</source>
+        <translation>全部保存</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>是(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Yes to &amp;All</source>
+        <translation>全是(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>否(&amp;N)</translation>
+    </message>
+    <message>
+        <source>N&amp;o to All</source>
+        <translation>全否(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>中止</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>忽略</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>丢弃</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>应用</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重置</translation>
+    </message>
+    <message>
+        <source>About Qt</source>
+        <translation>关于 Qt</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;About Qt&lt;/h3&gt;&lt;p&gt;This program uses Qt version %1.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;关于 Qt&lt;/h3&gt;&lt;p&gt;此程序使用 Qt 版本 %1。&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Qt is a C++ toolkit for cross-platform application development.&lt;/p&gt;&lt;p&gt;Qt provides single-source portability across all major desktop operating systems. It is also available for embedded Linux and other embedded and mobile operating systems.&lt;/p&gt;&lt;p&gt;Qt is available under multiple licensing options designed to accommodate the needs of our various users.&lt;/p&gt;&lt;p&gt;Qt licensed under our commercial license agreement is appropriate for development of proprietary/commercial software where you do not want to share any source code with third parties or otherwise cannot comply with the terms of GNU (L)GPL.&lt;/p&gt;&lt;p&gt;Qt licensed under GNU (L)GPL is appropriate for the development of Qt&amp;nbsp;applications provided you can comply with the terms and conditions of the respective licenses.&lt;/p&gt;&lt;p&gt;Please see &lt;a href=&quot;http://%2/&quot;&gt;%2&lt;/a&gt; for an overview of Qt licensing.&lt;/p&gt;&lt;p&gt;Copyright (C) %1 The Qt Company Ltd and other contributors.&lt;/p&gt;&lt;p&gt;Qt and the Qt logo are trademarks of The Qt Company Ltd.&lt;/p&gt;&lt;p&gt;Qt is The Qt Company Ltd product developed as an open source project. See &lt;a href=&quot;http://%3/&quot;&gt;%3&lt;/a&gt; for more information.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Qt 是一个用于跨平台应用程序开发的 C++ 工具包。&lt;/p&gt;&lt;p&gt;同一份源代码可以移植到所有主要的桌面操作系统，也可以用于嵌入式 Linux 以及其他嵌入式和移动操作系统。&lt;/p&gt;&lt;p&gt;为满足不同用户的需要，Qt 提供多种许可方式。&lt;/p&gt;&lt;p&gt;如果您开发专有或商业软件，不希望与第三方共享源代码，或者因其他原因无法遵守 GNU (L)GPL 的条款，请选用按我们的商业许可协议授权的 Qt。&lt;/p&gt;&lt;p&gt;如果您能够遵守 GNU (L)GPL 相应许可的条款和条件，可以选用按该许可授权的 Qt 来开发&amp;nbsp;Qt 应用程序。&lt;/p&gt;&lt;p&gt;有关 Qt 许可的概况，请参阅 &lt;a href=&quot;http://%2/&quot;&gt;%2&lt;/a&gt;。&lt;/p&gt;&lt;p&gt;版权所有 (C) %1 The Qt Company Ltd 及其他贡献者。&lt;/p&gt;&lt;p&gt;Qt 和 Qt 徽标是 The Qt Company Ltd 的商标。&lt;/p&gt;&lt;p&gt;Qt 是 The Qt Company Ltd 以开源项目方式开发的产品。更多信息请参阅 &lt;a href=&quot;http://%3/&quot;&gt;%3&lt;/a&gt;。&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Show Details...</source>
+        <translation>显示详情...</translation>
+    </message>
+    <message>
+        <source>Hide Details...</source>
+        <translation>隐藏详情...</translation>
+    </message>
+</context>
+<context>
+    <name>Tarn::Widgets::IPLineEdit</name>
+    <message>
+        <source>Copy Address</source>
+        <translation>复制地址</translation>
+    </message>
+    <message>
+        <source>Paste Address</source>
+        <translation>粘贴地址</translation>
+    </message>
+</context>
+<context>
+    <name>Tarn::Widgets::LimitedFileDialog</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>The permitted folder is missing.</source>
+        <translation>允许的文件夹不存在。</translation>
+    </message>
+    <message>
+        <source>Outside the permitted folder: %1</source>
+        <translation>在允许的文件夹之外：%1</translation>
+    </message>
+</context>
+<context>
+    <name>Tarn::Widgets::TitleBar</name>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Maximization</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>徽标</translation>
+    </message>
+</context>
+</TS>
