@@ -5,6 +5,7 @@
 
 #include "parts.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
@@ -34,10 +35,15 @@ constexpr int ButtonWidth = 36;
 QMenu *createMenu(QWidget *parent)
 {
     auto *menu = new QMenu(parent);
-    menu->addAction(ButtonsPage::tr("Start"));
-    menu->addAction(ButtonsPage::tr("Stop"));
+    QAction *start = menu->addAction(QString());
+    QAction *stop = menu->addAction(QString());
     menu->addSeparator();
-    menu->addAction(ButtonsPage::tr("Flush"));
+    QAction *flush = menu->addAction(QString());
+    keepTranslated(menu, [=] {
+        start->setText(ButtonsPage::tr("Start"));
+        stop->setText(ButtonsPage::tr("Stop"));
+        flush->setText(ButtonsPage::tr("Flush"));
+    });
     return menu;
 }
 
@@ -55,7 +61,7 @@ ButtonsPage::ButtonsPage(QWidget *parent)
     layout->addWidget(createToolButtonGroup(), 1, 1);
     layout->setColumnStretch(1, 1);
     layout->setRowStretch(2, 1);
-    refresh();
+    keepTranslated(m_hover, [this] { refresh(); });
 }
 
 ButtonsPage::~ButtonsPage() = default;
@@ -87,7 +93,6 @@ QWidget *ButtonsPage::createStrip()
     m_buttons.last()->isOpenRotation(true);
     changeAll([layout](PushButton *button) {
         button->setFixedSize(ButtonWidth, ButtonHeight);
-        button->setBtnText(tr("Messages"));
         layout->addWidget(button, 0, Qt::AlignTop);
     });
     strip->setMinimumHeight(GreatestHeight + 2 * StripMargin);
@@ -96,11 +101,13 @@ QWidget *ButtonsPage::createStrip()
 
 QWidget *ButtonsPage::createPushButtonGroup()
 {
-    auto *group = new QGroupBox(tr("Push buttons"), this);
-    auto *text = new QLineEdit(m_buttons.first()->getBtnText());
+    auto *group = new QGroupBox(this);
+    showText(group, [] { return tr("Push buttons"); });
+    auto *text = new QLineEdit;
     connect(text, &QLineEdit::textChanged, this, [this](const QString &fullText) {
         changeAll([&](PushButton *button) { button->setBtnText(fullText); });
     });
+    showSample(text, [] { return tr("Messages"); });
     const auto setHeight = [this](int height) {
         changeAll([=](PushButton *button) {
             button->setFixedHeight(height);
@@ -117,39 +124,49 @@ QWidget *ButtonsPage::createPushButtonGroup()
 
     auto *layout = new QGridLayout(group);
     layout->setColumnStretch(1, 1);
-    addFormRow(layout, tr("Text"), text);
-    addFormRow(layout, tr("Height"), createPixelBox(24, GreatestHeight, ButtonHeight, setHeight));
-    addFormRow(layout, tr("Width"), createPixelBox(20, 60, ButtonWidth, setWidth));
-    addFormRow(layout, tr("Shown"), m_shown);
-    addFormRow(layout, tr("Tool tip"), m_toolTip);
-    const auto addSwitch = [=](const QString &title, std::function<void(PushButton *, bool)> change) {
+    addFormRow(
+        layout, [] { return tr("Text"); }, text);
+    addFormRow(
+        layout, [] { return tr("Height"); }, createPixelBox(24, GreatestHeight, ButtonHeight, setHeight));
+    addFormRow(
+        layout, [] { return tr("Width"); }, createPixelBox(20, 60, ButtonWidth, setWidth));
+    addFormRow(
+        layout, [] { return tr("Shown"); }, m_shown);
+    addFormRow(
+        layout, [] { return tr("Tool tip"); }, m_toolTip);
+    const auto addSwitch = [=](const Text &title, std::function<void(PushButton *, bool)> change) {
         auto *box = createCheckBox(title, true, [this, change = std::move(change)](bool on) {
             changeAll([&](PushButton *button) { change(button, on); });
         });
         layout->addWidget(box, layout->rowCount(), 0, 1, 2, Qt::AlignLeft);
     };
-    addSwitch(tr("Turned"), [](PushButton *button, bool on) { button->isOpenRotation(on); });
-    addSwitch(tr("First one clockwise"), [this](PushButton *button, bool on) {
-        if (button == m_buttons.first())
-            button->setRotationDirection(on);
-    });
+    addSwitch([] { return tr("Turned"); }, [](PushButton *button, bool on) { button->isOpenRotation(on); });
+    addSwitch([] { return tr("First one clockwise"); },
+              [this](PushButton *button, bool on) {
+                  if (button == m_buttons.first())
+                      button->setRotationDirection(on);
+              });
     return group;
 }
 
 QWidget *ButtonsPage::createToolButtonGroup()
 {
-    auto *group = new QGroupBox(tr("Tool button"), this);
+    auto *group = new QGroupBox(this);
+    showText(group, [] { return tr("Tool button"); });
     m_toolButton = new ToolButton(group);
-    m_toolButton->setText(tr("Pump"));
+    showText(m_toolButton, [] { return tr("Pump"); });
     m_toolButton->setPopupMode(QToolButton::InstantPopup);
     m_toolButton->setMenu(createMenu(m_toolButton));
     m_toolButton->installEventFilter(this);
     m_hover = new QLabel;
 
     auto *modes = createComboBox();
-    modes->addItem(tr("At once"), QToolButton::InstantPopup);
-    modes->addItem(tr("By its arrow"), QToolButton::MenuButtonPopup);
-    modes->addItem(tr("After a delay"), QToolButton::DelayedPopup);
+    for (const auto mode :
+         {QToolButton::InstantPopup, QToolButton::MenuButtonPopup, QToolButton::DelayedPopup})
+        modes->addItem(QString(), mode);
+    keepTranslated(modes, [modes] {
+        setRowTexts(modes, {tr("At once"), tr("By its arrow"), tr("After a delay")});
+    });
     connect(modes, QOverload<int>::of(&QComboBox::currentIndexChanged), m_toolButton, [this, modes](int row) {
         m_toolButton->setPopupMode(QToolButton::ToolButtonPopupMode(modes->itemData(row).toInt()));
     });
@@ -158,7 +175,8 @@ QWidget *ButtonsPage::createToolButtonGroup()
     layout->setColumnStretch(1, 1);
     layout->addWidget(m_toolButton, 0, 0, Qt::AlignLeft);
     layout->addWidget(m_hover, 0, 1);
-    addFormRow(layout, tr("Menu"), modes);
+    addFormRow(
+        layout, [] { return tr("Menu"); }, modes);
     return group;
 }
 
@@ -166,7 +184,7 @@ void ButtonsPage::changeAll(const std::function<void(PushButton *)> &change)
 {
     for (PushButton *button : qAsConst(m_buttons))
         change(button);
-    if (m_shown)
+    if (m_hover)
         refresh();
 }
 

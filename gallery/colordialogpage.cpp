@@ -52,9 +52,10 @@ ColorDialogPage::ColorDialogPage(Appearance *appearance, QWidget *parent)
     choices->setSpacing(10);
     choices->addWidget(createChoices());
     choices->addWidget(createOpenButtons());
-    choices->addWidget(
-        createNote(tr("Custom colours are kept beside the program, in\n%1/customSettingCfg.info")
-                       .arg(QCoreApplication::applicationDirPath())));
+    choices->addWidget(createNote([] {
+        return tr("Custom colours are kept beside the program, in\n%1/customSettingCfg.info")
+            .arg(QCoreApplication::applicationDirPath());
+    }));
     choices->addStretch();
 
     // One for all pictures: a dialog writes the custom colours when it is destroyed.
@@ -65,7 +66,7 @@ ColorDialogPage::ColorDialogPage(Appearance *appearance, QWidget *parent)
     font.setStyleHint(QFont::Monospace);
     font.setPixelSize(CodePixels);
     m_code->setFont(font);
-    m_code->setAccessibleName(tr("Code"));
+    keepTranslated(m_code, [this] { m_code->setAccessibleName(tr("Code")); });
     m_code->setFixedHeight(96);
     auto *result = new QVBoxLayout;
     result->setSpacing(10);
@@ -97,30 +98,40 @@ Page ColorDialogPage::page()
 QWidget *ColorDialogPage::createChoices()
 {
     m_swatch = new ColorSwatch(QColor(FirstColor));
-    m_swatch->setToolTip(tr("Drop a colour here"));
-    m_swatch->setAccessibleName(tr("Chosen colour"));
+    keepTranslated(m_swatch, [this] {
+        m_swatch->setToolTip(tr("Drop a colour here"));
+        m_swatch->setAccessibleName(tr("Chosen colour"));
+    });
     m_initialColors = createComboBox();
-    m_initialColors->addItem(tr("the chosen one"));
-    m_initialColors->addItem(tr("Red"), QColor(Qt::red));
-    m_initialColors->addItem(tr("Grey"), QColor(Qt::gray));
-    m_initialColors->addItem(tr("White"), QColor(Qt::white));
+    m_initialColors->addItem(QString());
+    for (const QColor &color : {QColor(Qt::red), QColor(Qt::gray), QColor(Qt::white)})
+        m_initialColors->addItem(QString(), color);
+    keepTranslated(m_initialColors, [this] {
+        setRowTexts(m_initialColors, {tr("the chosen one"), tr("Red"), tr("Grey"), tr("White")});
+    });
     connect(m_initialColors, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &ColorDialogPage::refresh);
 
-    auto *group = new QGroupBox(tr("Colour"));
+    auto *group = new QGroupBox;
+    showText(group, [] { return tr("Colour"); });
     auto *layout = new QGridLayout(group);
     layout->setColumnStretch(1, 1);
-    addFormRow(layout, tr("Chosen"), m_swatch);
-    addFormRow(layout, tr("Begin with"), m_initialColors);
+    addFormRow(
+        layout, [] { return tr("Chosen"); }, m_swatch);
+    addFormRow(
+        layout, [] { return tr("Begin with"); }, m_initialColors);
     return group;
 }
 
 QWidget *ColorDialogPage::createOpenButtons()
 {
     auto *row = new QWidget(this);
-    auto *choose = new QPushButton(tr("Choose"), row);
-    auto *modeless = new QPushButton(tr("Open modeless"), row);
-    modeless->setToolTip(tr("To drag its swatch to the one above"));
+    auto *choose = createButton([] { return tr("Choose"); });
+    auto *modeless = new QPushButton;
+    keepTranslated(modeless, [modeless] {
+        modeless->setText(tr("Open modeless"));
+        modeless->setToolTip(tr("To drag its swatch to the one above"));
+    });
     choose->setDefault(true);
     connect(choose, &QPushButton::clicked, this, &ColorDialogPage::choose);
     connect(modeless, &QPushButton::clicked, this, &ColorDialogPage::openModeless);
@@ -139,8 +150,8 @@ QWidget *ColorDialogPage::createPreview()
     auto *stage = new StyleSheetWidget(this);
     stage->setObjectName(QStringLiteral("galleryStage"));
     m_preview = new PictureView(stage);
-    m_preview->setAccessibleName(tr("Picture of the colour dialog"));
-    m_outcome = createNote(tr("Not opened yet"));
+    keepTranslated(m_preview, [this] { m_preview->setAccessibleName(tr("Picture of the colour dialog")); });
+    m_outcome = createNote([] { return tr("Not opened yet"); });
     m_outcome->setAlignment(Qt::AlignCenter);
 
     auto *layout = new QVBoxLayout(stage);
@@ -163,8 +174,9 @@ void ColorDialogPage::choose()
     const QColor color = ColorDialog::getColor(initialColor(), this);
     if (!alive)
         return;
-    m_outcome->setText(color.isValid() ? tr("Result: %1").arg(color.name())
-                                       : tr("Result: an invalid colour"));
+    showText(m_outcome, [color] {
+        return color.isValid() ? tr("Result: %1").arg(color.name()) : tr("Result: an invalid colour");
+    });
     if (color.isValid())
         m_swatch->setColor(color);
 }
@@ -181,6 +193,15 @@ void ColorDialogPage::refresh()
     m_code->setPlainText(codeFor(initialColor()));
     m_model->setInitColor(initialColor());
     m_preview->setPicture(m_model->grab());
+}
+
+/* The dialog in the picture has its new texts once the children know of the language. */
+bool ColorDialogPage::event(QEvent *event)
+{
+    const bool isRecognized = QWidget::event(event);
+    if (event->type() == QEvent::LanguageChange && isVisible())
+        refresh();
+    return isRecognized;
 }
 
 void ColorDialogPage::showEvent(QShowEvent *event)

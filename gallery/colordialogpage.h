@@ -34,6 +34,7 @@ public:
     static Page page();
 
 protected:
+    bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:

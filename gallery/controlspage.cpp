@@ -5,6 +5,7 @@
 
 #include "parts.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
@@ -25,14 +26,22 @@ constexpr int ListEntries = 12;
 QWidget *createButtons()
 {
     auto *row = new QWidget;
-    auto *first = new QPushButton(ControlsPage::tr("Default"));
+    auto *first = new QPushButton;
+    showText(first, [] { return ControlsPage::tr("Default"); });
     first->setDefault(true);
     auto *menu = new QMenu(row);
-    menu->addAction(ControlsPage::tr("Copy"));
-    menu->addAction(ControlsPage::tr("Paste"))->setEnabled(false);
+    QAction *copy = menu->addAction(QString());
+    QAction *paste = menu->addAction(QString());
+    paste->setEnabled(false);
     menu->addSeparator();
-    menu->addAction(ControlsPage::tr("Select all"));
-    auto *second = new QPushButton(ControlsPage::tr("Menu"));
+    QAction *selectAll = menu->addAction(QString());
+    keepTranslated(menu, [=] {
+        copy->setText(ControlsPage::tr("Copy"));
+        paste->setText(ControlsPage::tr("Paste"));
+        selectAll->setText(ControlsPage::tr("Select all"));
+    });
+    auto *second = new QPushButton;
+    showText(second, [] { return ControlsPage::tr("Menu"); });
     second->setMenu(menu);
 
     auto *layout = new QHBoxLayout(row);
@@ -49,17 +58,22 @@ QWidget *createMarks()
     auto *layout = new QGridLayout(marks);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setVerticalSpacing(0);
-    auto *partly = new QCheckBox(ControlsPage::tr("Partly"));
+    auto *partly = new QCheckBox;
+    showText(partly, [] { return ControlsPage::tr("Partly"); });
     partly->setTristate(true);
     partly->setCheckState(Qt::PartiallyChecked);
-    auto *chosen = new QRadioButton(ControlsPage::tr("Chosen"));
+    auto *chosen = new QRadioButton;
+    showText(chosen, [] { return ControlsPage::tr("Chosen"); });
     chosen->setChecked(true);
-    auto *checked = new QCheckBox(ControlsPage::tr("Checked"));
+    auto *checked = new QCheckBox;
+    showText(checked, [] { return ControlsPage::tr("Checked"); });
     checked->setChecked(true);
+    auto *other = new QRadioButton;
+    showText(other, [] { return ControlsPage::tr("Other"); });
     layout->addWidget(checked, 0, 0, Qt::AlignLeft);
     layout->addWidget(partly, 0, 1, Qt::AlignLeft);
     layout->addWidget(chosen, 1, 0, Qt::AlignLeft);
-    layout->addWidget(new QRadioButton(ControlsPage::tr("Other")), 1, 1, Qt::AlignLeft);
+    layout->addWidget(other, 1, 1, Qt::AlignLeft);
     return marks;
 }
 
@@ -70,26 +84,39 @@ QWidget *createFields()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setColumnStretch(1, 1);
     QComboBox *unit = createComboBox();
-    unit->addItems({ControlsPage::tr("Celsius"), ControlsPage::tr("Fahrenheit"), ControlsPage::tr("Kelvin")});
-    addFormRow(layout, ControlsPage::tr("Text"), new QLineEdit(ControlsPage::tr("Tank 2")));
-    addFormRow(layout, ControlsPage::tr("Number"), new QSpinBox);
-    addFormRow(layout, ControlsPage::tr("Choice"), unit);
+    keepTranslated(unit, [unit] {
+        setRowTexts(
+            unit, {ControlsPage::tr("Celsius"), ControlsPage::tr("Fahrenheit"), ControlsPage::tr("Kelvin")});
+    });
+    auto *text = new QLineEdit;
+    showSample(text, [] { return ControlsPage::tr("Tank 2"); });
+    addFormRow(
+        layout, [] { return ControlsPage::tr("Text"); }, text);
+    addFormRow(
+        layout, [] { return ControlsPage::tr("Number"); }, new QSpinBox);
+    addFormRow(
+        layout, [] { return ControlsPage::tr("Choice"); }, unit);
     return fields;
 }
 
 QWidget *createList()
 {
     auto *list = new QListWidget;
-    for (int i = 1; i <= ListEntries; ++i)
-        list->addItem(ControlsPage::tr("Sensor %1").arg(i));
+    for (int i = 0; i < ListEntries; ++i)
+        list->addItem(QString());
+    keepTranslated(list, [list] {
+        for (int i = 0; i < ListEntries; ++i)
+            list->item(i)->setText(ControlsPage::tr("Sensor %1").arg(i + 1));
+    });
     list->setCurrentRow(1);
     list->setResizeMode(QListView::Adjust); // the first layout comes before the style sheet's sizes
     return list;
 }
 
-QWidget *createPanel(const QString &title, bool isEnabled)
+QWidget *createPanel(const Text &title, bool isEnabled)
 {
-    auto *panel = new QGroupBox(title);
+    auto *panel = new QGroupBox;
+    showText(panel, title);
     auto *layout = new QVBoxLayout(panel);
     layout->setSpacing(8);
     layout->addWidget(createButtons());
@@ -108,8 +135,8 @@ ControlsPage::ControlsPage(QWidget *parent)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(PageMargins);
     layout->setSpacing(16);
-    layout->addWidget(createPanel(tr("Enabled"), true));
-    layout->addWidget(createPanel(tr("Disabled"), false));
+    layout->addWidget(createPanel([] { return tr("Enabled"); }, true));
+    layout->addWidget(createPanel([] { return tr("Disabled"); }, false));
 }
 
 ControlsPage::~ControlsPage() = default;

@@ -82,34 +82,48 @@ Page DialogsPage::page()
 
 QWidget *DialogsPage::createSwitches()
 {
-    auto *group = new QGroupBox(tr("Dialog"), this);
+    auto *group = new QGroupBox(this);
+    showText(group, [] { return tr("Dialog"); });
     auto *layout = new QGridLayout(group);
     layout->setVerticalSpacing(0);
     layout->setColumnMinimumWidth(0, LeftColumnWidth);
     layout->setColumnStretch(1, 1);
-    const auto add = [=](int row, int column, const QString &text, bool DialogOptions::*option) {
+    const auto add = [=](int row, int column, const Text &text, bool DialogOptions::*option) {
         layout->addWidget(createSwitch(text, option), row, column, Qt::AlignLeft);
     };
-    add(0, 0, tr("Minimise"), &DialogOptions::minButton);
-    add(0, 1, tr("Maximise"), &DialogOptions::maxButton);
-    add(1, 0, tr("Close"), &DialogOptions::closeButton);
-    add(1, 1, tr("Apply"), &DialogOptions::applyButton);
-    add(2, 0, tr("Bottom bar"), &DialogOptions::bottomBar);
-    add(3, 0, tr("Movable"), &DialogOptions::movable);
-    add(3, 1, tr("by outline"), &DialogOptions::outlineOnMove);
-    add(4, 0, tr("Resizable"), &DialogOptions::resizable);
-    add(4, 1, tr("by outline"), &DialogOptions::outlineOnResize);
+    add(
+        0, 0, [] { return tr("Minimise"); }, &DialogOptions::minButton);
+    add(
+        0, 1, [] { return tr("Maximise"); }, &DialogOptions::maxButton);
+    add(
+        1, 0, [] { return tr("Close"); }, &DialogOptions::closeButton);
+    add(
+        1, 1, [] { return tr("Apply"); }, &DialogOptions::applyButton);
+    add(
+        2, 0, [] { return tr("Bottom bar"); }, &DialogOptions::bottomBar);
+    add(
+        3, 0, [] { return tr("Movable"); }, &DialogOptions::movable);
+    add(
+        3, 1, [] { return tr("by outline"); }, &DialogOptions::outlineOnMove);
+    add(
+        4, 0, [] { return tr("Resizable"); }, &DialogOptions::resizable);
+    add(
+        4, 1, [] { return tr("by outline"); }, &DialogOptions::outlineOnResize);
     return group;
 }
 
 QWidget *DialogsPage::createNumbers()
 {
-    auto *group = new QGroupBox(tr("Sizes"), this);
+    auto *group = new QGroupBox(this);
+    showText(group, [] { return tr("Sizes"); });
     auto *layout = new QGridLayout(group);
     layout->setColumnMinimumWidth(0, LeftColumnWidth);
-    addFormRow(layout, tr("Separator lines"), createNumber(0, 8, &DialogOptions::lineHeight));
-    addFormRow(layout, tr("Resize border"), createNumber(1, 40, &DialogOptions::borderWidth));
-    addFormRow(layout, tr("Drag zone"), createNumber(1, 200, &DialogOptions::titleHeight));
+    addFormRow(
+        layout, [] { return tr("Separator lines"); }, createNumber(0, 8, &DialogOptions::lineHeight));
+    addFormRow(
+        layout, [] { return tr("Resize border"); }, createNumber(1, 40, &DialogOptions::borderWidth));
+    addFormRow(
+        layout, [] { return tr("Drag zone"); }, createNumber(1, 200, &DialogOptions::titleHeight));
     return group;
 }
 
@@ -118,8 +132,12 @@ QWidget *DialogsPage::createPreview()
     auto *stage = new StyleSheetWidget(this);
     stage->setObjectName(QStringLiteral("galleryStage"));
     m_preview = new PictureView(stage);
-    m_preview->setAccessibleName(tr("Picture of the dialog"));
-    m_outcome = createNote(tr("Not opened yet"));
+    keepTranslated(m_preview, [this] {
+        m_preview->setAccessibleName(tr("Picture of the dialog"));
+        if (m_preview->isVisible())
+            updatePreview();
+    });
+    m_outcome = createNote([] { return tr("Not opened yet"); });
     m_outcome->setAlignment(Qt::AlignCenter);
 
     auto *layout = new QVBoxLayout(stage);
@@ -132,8 +150,8 @@ QWidget *DialogsPage::createPreview()
 QWidget *DialogsPage::createOpenButtons()
 {
     auto *row = new QWidget(this);
-    auto *modal = new QPushButton(tr("Open modal"), row);
-    auto *modeless = new QPushButton(tr("Open modeless"), row);
+    auto *modal = createButton([] { return tr("Open modal"); });
+    auto *modeless = createButton([] { return tr("Open modeless"); });
     modal->setDefault(true);
     connect(modal, &QPushButton::clicked, this, &DialogsPage::openModal);
     connect(modeless, &QPushButton::clicked, this, &DialogsPage::openModeless);
@@ -147,7 +165,7 @@ QWidget *DialogsPage::createOpenButtons()
     return row;
 }
 
-QCheckBox *DialogsPage::createSwitch(const QString &text, bool DialogOptions::*option)
+QCheckBox *DialogsPage::createSwitch(const Text &text, bool DialogOptions::*option)
 {
     return createCheckBox(text, m_options.*option, [this, option](bool on) {
         m_options.*option = on;
@@ -184,7 +202,7 @@ void DialogsPage::openModeless()
 
 void DialogsPage::showOutcome(int result)
 {
-    m_outcome->setText(result == QDialog::Accepted ? tr("Accepted") : tr("Rejected"));
+    showText(m_outcome, [=] { return result == QDialog::Accepted ? tr("Accepted") : tr("Rejected"); });
 }
 
 void DialogsPage::updatePreview()

@@ -6,6 +6,7 @@
 
 #include "page.h"
 #include "sampledialog.h"
+#include "texts.h"
 
 #include <QWidget>
 
@@ -35,7 +36,7 @@ private:
     QWidget *createNumbers();
     QWidget *createPreview();
     QWidget *createOpenButtons();
-    QCheckBox *createSwitch(const QString &text, bool DialogOptions::*option);
+    QCheckBox *createSwitch(const Text &text, bool DialogOptions::*option);
     QWidget *createNumber(int minimum, int maximum, int DialogOptions::*option);
 
     void openModal();

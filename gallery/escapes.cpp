@@ -26,10 +26,10 @@ void write(const QString &path)
         qWarning("Cannot write %s: %s", qPrintable(path), qPrintable(file.errorString()));
 }
 
-QString tr(const char *text)
+struct Titles
 {
-    return QCoreApplication::translate("Gallery::Escapes", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Gallery::Escapes)
+};
 
 } // namespace
 
@@ -62,16 +62,16 @@ QVector<Escape> escapes(const SampleTree &tree)
     const QString recipes = tree.at(QStringLiteral("recipes"));
     const QString keys = tree.at(QStringLiteral("private/keys.txt"));
     return {
-        {tr("Parent button"), recipes, QString(), recipes},
-        {tr("Path with ../"), recipes, QStringLiteral("../private/keys.txt"), recipes},
-        {tr("Full path"), recipes, keys, recipes},
-        {tr("Full path, /../"), recipes, recipes + QStringLiteral("/../private/keys.txt"), recipes},
-        {tr("Tilde"), recipes, QStringLiteral("~"), recipes},
-        {tr("Quoted path"), recipes, QStringLiteral("\"../private/keys.txt\""), recipes},
-        {tr("Similar name"), recipes, tree.at(QStringLiteral("recipes-old/rye.rcp")), recipes},
-        {tr("Symbolic link"), recipes, QStringLiteral("link/keys.txt"), recipes},
-        {tr("Start outside"), tree.at(QStringLiteral("private")), QString(), recipes},
-        {tr("Missing limit"), recipes, keys, tree.at(QStringLiteral("missing"))},
+        {Titles::tr("Parent button"), recipes, QString(), recipes},
+        {Titles::tr("Path with ../"), recipes, QStringLiteral("../private/keys.txt"), recipes},
+        {Titles::tr("Full path"), recipes, keys, recipes},
+        {Titles::tr("Full path, /../"), recipes, recipes + QStringLiteral("/../private/keys.txt"), recipes},
+        {Titles::tr("Tilde"), recipes, QStringLiteral("~"), recipes},
+        {Titles::tr("Quoted path"), recipes, QStringLiteral("\"../private/keys.txt\""), recipes},
+        {Titles::tr("Similar name"), recipes, tree.at(QStringLiteral("recipes-old/rye.rcp")), recipes},
+        {Titles::tr("Symbolic link"), recipes, QStringLiteral("link/keys.txt"), recipes},
+        {Titles::tr("Start outside"), tree.at(QStringLiteral("private")), QString(), recipes},
+        {Titles::tr("Missing limit"), recipes, keys, tree.at(QStringLiteral("missing"))},
     };
 }
 

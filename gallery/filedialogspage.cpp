@@ -28,7 +28,7 @@ namespace Gallery {
 FileDialogsPage::FileDialogsPage(QWidget *parent)
     : QWidget(parent)
 {
-    m_outcome = createNote(tr("Not opened yet"));
+    m_outcome = createNote([] { return tr("Not opened yet"); });
     auto *choices = new QVBoxLayout;
     choices->setSpacing(10);
     choices->addWidget(createLimited());
@@ -57,36 +57,42 @@ Page FileDialogsPage::page()
 QWidget *FileDialogsPage::createLimited()
 {
     QComboBox *kinds = createComboBox();
-    kinds->addItems({tr("Open a file"), tr("Save a file"), tr("Choose a folder")});
+    keepTranslated(kinds, [kinds] {
+        setRowTexts(kinds, {tr("Open a file"), tr("Save a file"), tr("Choose a folder")});
+    });
     connect(kinds, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             [this](int row) { m_kind = row; });
-    auto *open = new QPushButton(tr("Open"));
+    auto *open = createButton([] { return tr("Open"); });
     open->setDefault(true);
     connect(open, &QPushButton::clicked, this, &FileDialogsPage::openLimited);
 
-    auto *group = new QGroupBox(tr("Limited to the recipes"));
+    auto *group = new QGroupBox;
+    showText(group, [] { return tr("Limited to the recipes"); });
     auto *layout = new QGridLayout(group);
     layout->setColumnStretch(1, 1);
-    addFormRow(layout, tr("Call"), kinds);
+    addFormRow(
+        layout, [] { return tr("Call"); }, kinds);
     const auto add = [layout](QWidget *widget) {
         layout->addWidget(widget, layout->rowCount(), 0, 1, 2, Qt::AlignLeft);
     };
-    add(createCheckBox(tr("The stick, too"), m_secondFolder, [this](bool on) { m_secondFolder = on; }));
-    add(createCheckBox(tr("Strict"), m_strict, [this](bool on) { m_strict = on; }));
+    add(createCheckBox([] { return tr("The stick, too"); }, m_secondFolder,
+                       [this](bool on) { m_secondFolder = on; }));
+    add(createCheckBox([] { return tr("Strict"); }, m_strict, [this](bool on) { m_strict = on; }));
     add(open);
     return group;
 }
 
 QWidget *FileDialogsPage::createFrameless()
 {
-    auto *group = new QGroupBox(tr("Frameless"));
+    auto *group = new QGroupBox;
+    showText(group, [] { return tr("Frameless"); });
     auto *layout = new QVBoxLayout(group);
 #ifdef TARN_EXPORT_FRAMELESS_FILE_DIALOG
-    auto *open = new QPushButton(tr("Open frameless"));
+    auto *open = createButton([] { return tr("Open frameless"); });
     connect(open, &QPushButton::clicked, this, &FileDialogsPage::openFrameless);
     layout->addWidget(open, 0, Qt::AlignLeft);
 #else
-    layout->addWidget(createNote(tr("This library keeps FramelessFileDialog to itself.")));
+    layout->addWidget(createNote([] { return tr("This library keeps FramelessFileDialog to itself."); }));
 #endif
     return group;
 }
@@ -94,14 +100,17 @@ QWidget *FileDialogsPage::createFrameless()
 QWidget *FileDialogsPage::createEscapes()
 {
     m_escapes = new QTreeWidget;
-    m_escapes->setAccessibleName(tr("Ways out"));
-    m_escapes->setHeaderLabels({tr("Way out"), tr("As it comes"), tr("Strict")});
+    keepTranslated(m_escapes, [this] {
+        m_escapes->setAccessibleName(tr("Ways out"));
+        m_escapes->setHeaderLabels({tr("Way out"), tr("As it comes"), tr("Strict")});
+        showEscapes();
+    });
     m_escapes->setRootIsDecorated(false);
     m_escapes->setSelectionMode(QAbstractItemView::NoSelection);
     m_escapes->setFocusPolicy(Qt::NoFocus);
     m_escapes->header()->setStretchLastSection(false);
     m_escapes->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_escapes->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_escapes->header()->setSectionResizeMode(TitleColumn, QHeaderView::Stretch);
     m_escapes->header()->setSectionsClickable(false);
     return m_escapes;
 }
@@ -147,15 +156,27 @@ void FileDialogsPage::openFrameless()
 
 void FileDialogsPage::tryEscapes()
 {
-    m_escapes->clear();
     const QVector<Escape> all = escapes(m_tree);
     for (const Escape &escape : all) {
-        const auto outcome = [&](bool strict) {
-            return getsOut(escape, m_tree, strict) ? tr("gets out") : tr("held");
-        };
-        auto *item = new QTreeWidgetItem({escape.title, outcome(false), outcome(true)});
-        item->setToolTip(0, escape.text.isEmpty() ? escape.title : tr("Typed: %1").arg(escape.text));
-        m_escapes->addTopLevelItem(item);
+        auto *item = new QTreeWidgetItem(m_escapes);
+        for (const int column : {PlainColumn, StrictColumn})
+            item->setData(column, Qt::UserRole, getsOut(escape, m_tree, column == StrictColumn));
+    }
+    showEscapes();
+}
+
+/* Whoever got out before does so in any language. */
+void FileDialogsPage::showEscapes()
+{
+    const QVector<Escape> all = escapes(m_tree);
+    for (int row = 0; row < m_escapes->topLevelItemCount(); ++row) {
+        const Escape &escape = all.at(row);
+        QTreeWidgetItem *item = m_escapes->topLevelItem(row);
+        item->setText(TitleColumn, escape.title);
+        item->setToolTip(TitleColumn,
+                         escape.text.isEmpty() ? escape.title : tr("Typed: %1").arg(escape.text));
+        for (const int column : {PlainColumn, StrictColumn})
+            item->setText(column, item->data(column, Qt::UserRole).toBool() ? tr("gets out") : tr("held"));
     }
 }
 
@@ -165,8 +186,9 @@ void FileDialogsPage::showOutcome(const QString &path)
     QString shown = path;
     if (shown.startsWith(top))
         shown.remove(0, top.size());
-    m_outcome->setText(path.isEmpty() ? tr("Cancelled")
-                                      : tr("Chosen: %1").arg(QDir::toNativeSeparators(shown)));
+    showText(m_outcome, [=] {
+        return shown.isEmpty() ? tr("Cancelled") : tr("Chosen: %1").arg(QDir::toNativeSeparators(shown));
+    });
 }
 
 void FileDialogsPage::showEvent(QShowEvent *event)

@@ -30,6 +30,7 @@ protected:
 
 private:
     enum Kind { OpenFile, SaveFile, ChooseFolder };
+    enum Column { TitleColumn, PlainColumn, StrictColumn };
 
     QWidget *createLimited();
     QWidget *createFrameless();
@@ -38,6 +39,7 @@ private:
     void openLimited();
     void openFrameless();
     void tryEscapes();
+    void showEscapes();
     void showOutcome(const QString &path);
 
     const SampleTree m_tree;

@@ -43,7 +43,7 @@ InputPage::InputPage(QWidget *parent)
     layout->setColumnStretch(0, 1);
     layout->setColumnStretch(1, 1);
     layout->setRowStretch(2, 1);
-    refresh();
+    keepTranslated(m_valid, [this] { refresh(); });
 }
 
 InputPage::~InputPage() = default;
@@ -59,28 +59,30 @@ Page InputPage::page()
 
 QWidget *InputPage::createAddressGroup()
 {
-    auto *group = new QGroupBox(tr("IPv4 address"), this);
+    auto *group = new QGroupBox(this);
+    showText(group, [] { return tr("IPv4 address"); });
     m_address = new IPLineEdit;
     m_address->setFixedWidth(AddressWidth);
     m_address->setText(QStringLiteral("192.168.1.20"));
     connect(m_address, &IPLineEdit::addressChanged, this, [this](const QString &address) {
-        log(tr("addressChanged: %1").arg(address));
+        log([=] { return tr("addressChanged: %1").arg(address); });
         refresh();
     });
 
     auto *layout = new QVBoxLayout(group);
     layout->addWidget(m_address, 0, Qt::AlignLeft);
-    layout->addWidget(createCheckBox(tr("Any address"), false,
+    layout->addWidget(createCheckBox([] { return tr("Any address"); }, false,
                                      [this](bool on) {
                                          m_address->setAcceptsAnyAddress(on);
                                          refresh();
                                      }),
                       0, Qt::AlignLeft);
+    layout->addWidget(createCheckBox([] { return tr("Read-only"); }, false,
+                                     [this](bool on) { m_address->setProperty("readOnly", on); }),
+                      0, Qt::AlignLeft);
     layout->addWidget(
-        createCheckBox(tr("Read-only"), false, [this](bool on) { m_address->setProperty("readOnly", on); }),
-        0, Qt::AlignLeft);
-    layout->addWidget(createCheckBox(tr("Enabled"), true, [this](bool on) { m_address->setEnabled(on); }), 0,
-                      Qt::AlignLeft);
+        createCheckBox([] { return tr("Enabled"); }, true, [this](bool on) { m_address->setEnabled(on); }), 0,
+        Qt::AlignLeft);
     layout->addWidget(createAddressState());
     layout->addWidget(createAddressActions());
     return group;
@@ -98,10 +100,14 @@ QWidget *InputPage::createAddressState()
     m_valid = new QLabel;
     connect(m_text, &QLineEdit::textChanged, this, &InputPage::refresh);
     connect(m_text, &QLineEdit::returnPressed, this, &InputPage::setAddress);
-    addFormRow(layout, tr("Address"), m_value);
-    addFormRow(layout, tr("Acceptable"), m_acceptable);
-    addFormRow(layout, tr("Text"), m_text);
-    addFormRow(layout, tr("Valid"), m_valid);
+    addFormRow(
+        layout, [] { return tr("Address"); }, m_value);
+    addFormRow(
+        layout, [] { return tr("Acceptable"); }, m_acceptable);
+    addFormRow(
+        layout, [] { return tr("Text"); }, m_text);
+    addFormRow(
+        layout, [] { return tr("Valid"); }, m_valid);
     return state;
 }
 
@@ -110,26 +116,34 @@ QWidget *InputPage::createAddressActions()
     auto *actions = new QWidget;
     auto *layout = new QGridLayout(actions);
     layout->setContentsMargins(0, 0, 0, 0);
-    const auto add = [=](int row, int column, const QString &text, std::function<void()> onClicked) {
-        auto *button = new QPushButton(text);
+    const auto add = [=](int row, int column, const Text &text, std::function<void()> onClicked) {
+        QPushButton *button = createButton(text);
         connect(button, &QPushButton::clicked, this, std::move(onClicked));
         layout->addWidget(button, row, column);
     };
-    add(0, 0, tr("Set text"), [this] { setAddress(); });
-    add(0, 1, tr("Clear"), [this] { m_address->clear(); });
-    add(1, 0, tr("Focus"), [this] { m_address->setIPFocus(); });
-    add(1, 1, tr("Modified?"), [this] { askWhetherModified(); });
+    add(
+        0, 0, [] { return tr("Set text"); }, [this] { setAddress(); });
+    add(
+        0, 1, [] { return tr("Clear"); }, [this] { m_address->clear(); });
+    add(
+        1, 0, [] { return tr("Focus"); }, [this] { m_address->setIPFocus(); });
+    add(
+        1, 1, [] { return tr("Modified?"); }, [this] { askWhetherModified(); });
     return actions;
 }
 
 QWidget *InputPage::createNoticeGroup()
 {
-    auto *group = new QGroupBox(tr("Line edit that tells"), this);
+    auto *group = new QGroupBox(this);
+    showText(group, [] { return tr("Line edit that tells"); });
     auto *field = new ChangedNoticeLineEdit;
-    field->setPlaceholderText(tr("Enter and leave"));
+    keepTranslated(field, [field] { field->setPlaceholderText(tr("Enter and leave")); });
     connect(field, &ChangedNoticeLineEdit::signal_focusOut, this, [this, field] {
         const QString selection = field->selectedText();
-        log(selection.isEmpty() ? tr("signal_focusOut") : tr("signal_focusOut, selected: %1").arg(selection));
+        log([=] {
+            return selection.isEmpty() ? QStringLiteral("signal_focusOut")
+                                       : tr("signal_focusOut, selected: %1").arg(selection);
+        });
     });
     auto *layout = new QVBoxLayout(group);
     layout->addWidget(field);
@@ -138,8 +152,9 @@ QWidget *InputPage::createNoticeGroup()
 
 QWidget *InputPage::createLog()
 {
-    auto *group = new QGroupBox(tr("Reported"), this);
-    m_log = new QListWidget;
+    auto *group = new QGroupBox(this);
+    showText(group, [] { return tr("Reported"); });
+    m_log = createLogList([] { return tr("Reported"); });
     m_log->setFocusPolicy(Qt::NoFocus);
     m_log->setSelectionMode(QAbstractItemView::NoSelection);
     auto *layout = new QVBoxLayout(group);
@@ -152,12 +167,13 @@ void InputPage::setAddress()
     const QString before = m_address->text();
     m_address->setText(m_text->text());
     if (m_address->text() == before)
-        log(tr("The address stays: %1").arg(before));
+        log([=] { return tr("The address stays: %1").arg(before); });
 }
 
 void InputPage::askWhetherModified()
 {
-    log(tr("isModified: %1").arg(yesOrNo(m_address->isModified())));
+    const bool isModified = m_address->isModified();
+    log([=] { return tr("isModified: %1").arg(yesOrNo(isModified)); });
 }
 
 void InputPage::refresh()
@@ -167,10 +183,9 @@ void InputPage::refresh()
     m_valid->setText(yesOrNo(m_address->isTextValid(m_text->text())));
 }
 
-void InputPage::log(const QString &line)
+void InputPage::log(const Text &line)
 {
-    m_log->addItem(line);
-    m_log->scrollToBottom();
+    addLine(m_log, line);
 }
 
 } // namespace Gallery

@@ -5,6 +5,7 @@
 #define GALLERY_INPUTPAGE_H
 
 #include "page.h"
+#include "texts.h"
 
 #include <QWidget>
 
@@ -40,7 +41,7 @@ private:
     void setAddress();
     void askWhetherModified();
     void refresh();
-    void log(const QString &line);
+    void log(const Text &line);
 
     Tarn::Widgets::IPLineEdit *m_address = nullptr;
     QLineEdit *m_text = nullptr;

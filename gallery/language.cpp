@@ -3,38 +3,83 @@
 
 #include "language.h"
 
-#include "locations.h"
-
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QTranslator>
-#include <memory>
 
 namespace Gallery {
 
 namespace {
 
-bool install(const QLocale &locale, const QString &catalogue, const QString &directory)
+struct Choice
 {
-    auto translator = std::make_unique<QTranslator>();
-    if (!translator->load(locale, catalogue, QStringLiteral("_"), directory))
-        return false;
-    translator->setParent(QCoreApplication::instance());
-    return QCoreApplication::installTranslator(translator.release());
-}
+    const char *name;
+    const char *title;
+};
+
+constexpr Choice Choices[] = {{"en", "English"}, {"zh_CN", "中文"}};
 
 } // namespace
 
-bool installLanguage(const QString &language)
+Language::Language(const QString &directory, QObject *parent)
+    : QObject(parent)
+    , m_directory(directory)
 {
-    const QLocale locale = language.isEmpty() ? QLocale::system() : QLocale(language);
+}
+
+Language::~Language() = default;
+
+QStringList Language::names()
+{
+    QStringList names = {QString()};
+    for (const Choice &choice : Choices)
+        names.append(QLatin1String(choice.name));
+    return names;
+}
+
+QString Language::title(const QString &name)
+{
+    if (name.isEmpty())
+        return tr("System language");
+    for (const Choice &choice : Choices) {
+        if (name == QLatin1String(choice.name))
+            return QString::fromUtf8(choice.title);
+    }
+    const QString native = QLocale(name).nativeLanguageName();
+    return native.isEmpty() ? name : native;
+}
+
+QString Language::name() const
+{
+    return m_name;
+}
+
+bool Language::setName(const QString &name)
+{
+    const QLocale locale = name.isEmpty() ? QLocale::system() : QLocale(name);
     QLocale::setDefault(locale);
-    const QString ours = dataDirectory(QStringLiteral("translations"));
-    install(locale, QStringLiteral("qtbase"), QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-    install(locale, QStringLiteral("tarnwidgets"), ours);
-    const bool hasOwn = install(locale, QStringLiteral("tarnwidgets_gallery"), ours);
-    return hasOwn || locale.language() == QLocale::English || locale.language() == QLocale::C;
+    for (QTranslator *translator : {&m_qt, &m_library, &m_gallery})
+        QCoreApplication::removeTranslator(translator);
+
+    // The library has a file for English, too, and so tells which of the user's languages it is to be.
+    const QString catalogue = QStringLiteral("tarnwidgets");
+    const bool isKnown = load(&m_library, locale, catalogue, m_directory);
+    if (!isKnown)
+        load(&m_library, QLocale(QLocale::English), catalogue, m_directory);
+    const QLocale shown(m_library.language());
+    load(&m_gallery, shown, QStringLiteral("tarnwidgets_gallery"), m_directory);
+    load(&m_qt, shown, QStringLiteral("qtbase"), QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+
+    m_name = name;
+    Q_EMIT changed();
+    return isKnown || locale.language() == QLocale::C || locale.language() == QLocale::English;
+}
+
+bool Language::load(QTranslator *translator, const QLocale &locale, const QString &catalogue,
+                    const QString &directory)
+{
+    return translator->load(locale, catalogue, QStringLiteral("_"), directory)
+        && QCoreApplication::installTranslator(translator);
 }
 
 } // namespace Gallery

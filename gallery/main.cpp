@@ -49,9 +49,10 @@ void setUpApplication(QApplication &application)
     QApplication::setWindowIcon(icon);
 }
 
-int drawPictures(Appearance *appearance, const Options &options, const QVector<Page> &pages)
+int drawPictures(Appearance *appearance, Language *language, const Options &options,
+                 const QVector<Page> &pages)
 {
-    Pictures pictures(appearance, options.picturesDirectory);
+    Pictures pictures(appearance, language, options.picturesDirectory);
     const QStringList themes =
         options.theme.isEmpty() ? Appearance::themeNames() : QStringList(options.theme);
     if (!pictures.draw(pages, themes))
@@ -82,8 +83,10 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(QStringLiteral("tarnwidgets-gallery"));
     QCoreApplication::setApplicationVersion(QStringLiteral(GALLERY_VERSION));
 
+    Language language(dataDirectory(QStringLiteral("translations")));
+    language.setName(QString()); // of the command line's texts
     const Options options = parseOptions(QCoreApplication::arguments());
-    if (!installLanguage(options.language) && !options.language.isEmpty())
+    if (!options.language.isEmpty() && !language.setName(options.language))
         qWarning("No translation for '%s': the texts are English", qPrintable(options.language));
     const QVector<Page> shown = chosenPages(options);
 
@@ -93,10 +96,10 @@ int main(int argc, char **argv)
     Appearance appearance(themes);
     setUpApplication(application);
     if (!options.picturesDirectory.isEmpty())
-        return drawPictures(&appearance, options, shown);
+        return drawPictures(&appearance, &language, options, shown);
 
     appearance.setTheme(options.theme.isEmpty() ? Appearance::themeNames().constFirst() : options.theme);
-    MainWindow window(&appearance);
+    MainWindow window(&appearance, &language);
     window.showPage(shown.constFirst().id);
     placeWindow(&window);
     window.show();

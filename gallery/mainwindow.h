@@ -8,12 +8,15 @@
 
 #include <tarnwidgets/framelesswindow.h>
 
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QListWidget;
 class QStackedWidget;
 
 namespace Gallery {
+
+class Language;
 
 /*!
  * \brief The gallery's window: the list of pages at the left, the chosen page at the right.
@@ -25,7 +28,7 @@ class MainWindow : public Tarn::Widgets::FramelessWindow
     Q_OBJECT
 
 public:
-    explicit MainWindow(Appearance *appearance, QWidget *parent = nullptr);
+    MainWindow(Appearance *appearance, Language *language, QWidget *parent = nullptr);
     ~MainWindow() override;
 
     /*! Unknown pages are ignored. */
@@ -34,15 +37,24 @@ public:
 private:
     QWidget *createSidebar();
     QWidget *createThemeChooser();
+    QWidget *createLanguageChooser();
+    QWidget *createDirectionSwitch();
     QWidget *createPageArea();
     QWidget *createHeader();
     void showPageAt(int index);
+    void turnLayout();
     void showTheme();
+    void showLanguage();
+    void retranslate();
+    void showHeading();
 
     Appearance *const m_appearance;
-    const QVector<Page> m_pages;
+    Language *const m_language;
+    QVector<Page> m_pages;
     QListWidget *m_list = nullptr;
     QComboBox *m_themes = nullptr;
+    QComboBox *m_languages = nullptr;
+    QCheckBox *m_rightToLeft = nullptr;
     QLabel *m_heading = nullptr;
     QLabel *m_summary = nullptr;
     QStackedWidget *m_stack = nullptr;

@@ -43,7 +43,7 @@ constexpr const char *CallNames[] = {"exec",    "open",     "information", "ques
 constexpr QMessageBox::Icon Icons[] = {QMessageBox::NoIcon, QMessageBox::Information, QMessageBox::Warning,
                                        QMessageBox::Critical, QMessageBox::Question};
 
-enum Text { Plain, Rich, Long, Chinese };
+enum Sample { Plain, Rich, Long, Chinese };
 
 // The last is two buttons of the application's own.
 const Buttons ButtonSets[] = {
@@ -81,6 +81,22 @@ QStringList namesOf(Buttons buttons, const QString &prefix)
         if (buttons.testFlag(Button(bit)))
             names.append(prefix + nameOf(Button(bit)));
     }
+    return names;
+}
+
+QStringList callNames()
+{
+    QStringList names;
+    for (const char *name : CallNames)
+        names.append(QLatin1String(name) + QStringLiteral("()"));
+    return names;
+}
+
+QStringList iconNames()
+{
+    QStringList names;
+    for (const QMessageBox::Icon icon : Icons)
+        names.append(nameOf(icon));
     return names;
 }
 
@@ -135,8 +151,9 @@ QString checkBoxText(int text)
 
 void addOwnButtons(Box *box)
 {
-    box->addButton(MessageBoxPage::tr("Switch off"), QMessageBox::AcceptRole);
-    box->addButton(MessageBoxPage::tr("Later"), QMessageBox::RejectRole);
+    showText(box->addButton(QString(), QMessageBox::AcceptRole),
+             [] { return MessageBoxPage::tr("Switch off"); });
+    showText(box->addButton(QString(), QMessageBox::RejectRole), [] { return MessageBoxPage::tr("Later"); });
 }
 
 bool isBuiltStepByStep(const MessageOptions &options)
@@ -155,12 +172,19 @@ Box *createBox(const MessageOptions &options, QWidget *parent)
     auto *box = new Box(options.icon, titleFor(options.text), mainText(options.text), buttons, parent);
     if (!buttons)
         addOwnButtons(box);
-    if (options.informativeText)
-        box->setInformativeText(informativeText(options.text));
-    if (options.checkBox)
-        box->setCheckBox(new QCheckBox(checkBoxText(options.text)));
-    if (options.detailedText)
-        box->setDetailedText(detailedText(options.text));
+    if (options.checkBox) {
+        auto *checkBox = new QCheckBox;
+        showText(checkBox, [text = options.text] { return checkBoxText(text); });
+        box->setCheckBox(checkBox);
+    }
+    keepTranslated(box, [=] {
+        box->setWindowTitle(titleFor(options.text));
+        box->setText(mainText(options.text));
+        if (options.informativeText)
+            box->setInformativeText(informativeText(options.text));
+        if (options.detailedText)
+            box->setDetailedText(detailedText(options.text));
+    });
     if (options.noCloseButton)
         box->setCloseButtonVisible(false);
     return box;
@@ -285,7 +309,7 @@ MessageOptions withMoreTexts(MessageOptions options)
 MessageBoxPage::MessageBoxPage(Appearance *appearance, QWidget *parent)
     : QWidget(parent)
 {
-    auto *open = new QPushButton(tr("Open"));
+    auto *open = createButton([] { return tr("Open"); });
     open->setDefault(true);
     connect(open, &QPushButton::clicked, this, &MessageBoxPage::open);
     auto *choices = new QVBoxLayout;
@@ -300,7 +324,10 @@ MessageBoxPage::MessageBoxPage(Appearance *appearance, QWidget *parent)
     font.setStyleHint(QFont::Monospace);
     font.setPixelSize(CodePixels);
     m_code->setFont(font);
-    m_code->setAccessibleName(tr("Code"));
+    keepTranslated(m_code, [this] {
+        m_code->setAccessibleName(tr("Code"));
+        showCode();
+    });
     m_code->setFixedHeight(110);
     auto *result = new QVBoxLayout;
     result->setSpacing(10);
@@ -342,32 +369,33 @@ Page MessageBoxPage::page()
 
 QWidget *MessageBoxPage::createChoices()
 {
-    QStringList calls;
-    for (const char *name : CallNames)
-        calls.append(QLatin1String(name) + QStringLiteral("()"));
-    QStringList icons;
-    for (const QMessageBox::Icon icon : Icons)
-        icons.append(nameOf(icon));
     const auto currentIcon = std::find(std::begin(Icons), std::end(Icons), m_options.icon);
-    m_icons = createList(icons, int(currentIcon - std::begin(Icons)),
+    m_icons = createList(iconNames, int(currentIcon - std::begin(Icons)),
                          [this](int row) { m_options.icon = Icons[row]; });
-    m_parts = {createSwitch(tr("Informative text"), &MessageOptions::informativeText),
-               createSwitch(tr("Check box"), &MessageOptions::checkBox),
-               createSwitch(tr("Details"), &MessageOptions::detailedText)};
-    m_noCloseButton = createSwitch(tr("No close button"), &MessageOptions::noCloseButton);
+    m_parts = {createSwitch([] { return tr("Informative text"); }, &MessageOptions::informativeText),
+               createSwitch([] { return tr("Check box"); }, &MessageOptions::checkBox),
+               createSwitch([] { return tr("Details"); }, &MessageOptions::detailedText)};
+    m_noCloseButton = createSwitch([] { return tr("No close button"); }, &MessageOptions::noCloseButton);
 
-    auto *group = new QGroupBox(tr("Message box"));
+    auto *group = new QGroupBox;
+    showText(group, [] { return tr("Message box"); });
     auto *layout = new QGridLayout(group);
     layout->setColumnStretch(1, 1);
-    addFormRow(layout, tr("Call"),
-               createList(calls, m_options.call, [this](int row) { m_options.call = row; }));
-    addFormRow(layout, tr("Icon"), m_icons);
-    addFormRow(layout, tr("Text"),
-               createList({tr("Plain"), tr("Rich"), tr("Long"), tr("Chinese")}, m_options.text,
-                          [this](int row) { m_options.text = row; }));
-    addFormRow(layout, tr("Buttons"), createList(buttonSetTitles(), m_options.buttons, [this](int row) {
-                   m_options.buttons = row;
-               }));
+    addFormRow(
+        layout, [] { return tr("Call"); },
+        createList(callNames, m_options.call, [this](int row) { m_options.call = row; }));
+    addFormRow(
+        layout, [] { return tr("Icon"); }, m_icons);
+    addFormRow(
+        layout, [] { return tr("Text"); },
+        createList(
+            [] {
+                return QStringList({tr("Plain"), tr("Rich"), tr("Long"), tr("Chinese")});
+            },
+            m_options.text, [this](int row) { m_options.text = row; }));
+    addFormRow(
+        layout, [] { return tr("Buttons"); },
+        createList(buttonSetTitles, m_options.buttons, [this](int row) { m_options.buttons = row; }));
     for (QCheckBox *part : qAsConst(m_parts))
         layout->addWidget(part, layout->rowCount(), 0, 1, 2, Qt::AlignLeft);
     layout->addWidget(m_noCloseButton, layout->rowCount(), 0, 1, 2, Qt::AlignLeft);
@@ -379,8 +407,12 @@ QWidget *MessageBoxPage::createPreview()
     auto *stage = new StyleSheetWidget(this);
     stage->setObjectName(QStringLiteral("galleryStage"));
     m_preview = new PictureView(stage);
-    m_preview->setAccessibleName(tr("Picture of the message box"));
-    m_outcome = createNote(tr("Not opened yet"));
+    keepTranslated(m_preview, [this] {
+        m_preview->setAccessibleName(tr("Picture of the message box"));
+        if (m_preview->isVisible())
+            refresh();
+    });
+    m_outcome = createNote([] { return tr("Not opened yet"); });
     m_outcome->setAlignment(Qt::AlignCenter);
 
     auto *layout = new QVBoxLayout(stage);
@@ -390,11 +422,10 @@ QWidget *MessageBoxPage::createPreview()
     return stage;
 }
 
-QComboBox *MessageBoxPage::createList(const QStringList &entries, int current,
-                                      std::function<void(int)> onChanged)
+QComboBox *MessageBoxPage::createList(const Texts &entries, int current, std::function<void(int)> onChanged)
 {
     QComboBox *list = createComboBox();
-    list->addItems(entries);
+    keepTranslated(list, [=] { setRowTexts(list, entries()); });
     list->setCurrentIndex(current);
     list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     list->setMinimumContentsLength(12);
@@ -406,7 +437,7 @@ QComboBox *MessageBoxPage::createList(const QStringList &entries, int current,
     return list;
 }
 
-QCheckBox *MessageBoxPage::createSwitch(const QString &text, bool MessageOptions::*option)
+QCheckBox *MessageBoxPage::createSwitch(const Text &text, bool MessageOptions::*option)
 {
     return createCheckBox(text, m_options.*option, [this, option](bool on) {
         m_options.*option = on;
@@ -466,14 +497,20 @@ void MessageBoxPage::openCall()
 
 void MessageBoxPage::showOutcome(QAbstractButton *button)
 {
-    m_outcome->setText(tr("Clicked: %1").arg(button->text().remove(QLatin1Char('&'))));
+    const QString text = button->text().remove(QLatin1Char('&'));
+    showText(m_outcome, [text] { return tr("Clicked: %1").arg(text); });
 }
 
 void MessageBoxPage::showOutcome(int result)
 {
     const QString name = result ? nameOf(Button(result)) : QString();
-    m_outcome->setText(name.isEmpty() ? tr("Result: %1").arg(result)
-                                      : tr("Result: %1").arg(QStringLiteral("QMessageBox::") + name));
+    const QString shown = name.isEmpty() ? QString::number(result) : QStringLiteral("QMessageBox::") + name;
+    showText(m_outcome, [shown] { return tr("Result: %1").arg(shown); });
+}
+
+void MessageBoxPage::showCode()
+{
+    m_code->setPlainText(isBuiltStepByStep(m_options) ? codeOfBox(m_options) : codeOfCall(m_options));
 }
 
 void MessageBoxPage::refresh()
@@ -483,7 +520,7 @@ void MessageBoxPage::refresh()
     for (QCheckBox *part : qAsConst(m_parts))
         part->setEnabled(isBox);
     m_noCloseButton->setEnabled(isCallWithButtons(m_options));
-    m_code->setPlainText(isBox ? codeOfBox(m_options) : codeOfCall(m_options));
+    showCode();
     if (m_options.call == AboutQt) {
         m_preview->setPicture(QPixmap());
         return;

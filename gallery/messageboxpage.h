@@ -5,6 +5,7 @@
 #define GALLERY_MESSAGEBOXPAGE_H
 
 #include "page.h"
+#include "texts.h"
 
 #include <QMessageBox>
 #include <QWidget>
@@ -55,15 +56,18 @@ private Q_SLOTS:
     void showOutcome(QAbstractButton *button);
 
 private:
+    using Texts = std::function<QStringList()>;
+
     QWidget *createChoices();
     QWidget *createPreview();
-    QComboBox *createList(const QStringList &entries, int current, std::function<void(int)> onChanged);
-    QCheckBox *createSwitch(const QString &text, bool MessageOptions::*option);
+    QComboBox *createList(const Texts &entries, int current, std::function<void(int)> onChanged);
+    QCheckBox *createSwitch(const Text &text, bool MessageOptions::*option);
 
     void open();
     void openCall();
     void showOutcome(int result);
     MessageOptions optionsOfBox() const;
+    void showCode();
     void refresh();
 
     MessageOptions m_options;

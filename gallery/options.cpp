@@ -15,10 +15,10 @@ namespace Gallery {
 
 namespace {
 
-QString tr(const char *text)
+struct CommandLine
 {
-    return QCoreApplication::translate("Gallery::Options", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Gallery::Options)
+};
 
 } // namespace
 
@@ -35,26 +35,31 @@ bool runsWithoutDisplay(int argc, char **argv)
 Options parseOptions(const QStringList &arguments)
 {
     const QString themes = Appearance::themeNames().join(QStringLiteral(", "));
-    const QCommandLineOption page(QStringLiteral("page"), tr("Show the page <id> first."), tr("id"));
-    const QCommandLineOption theme(QStringLiteral("theme"), tr("Use the theme <name>: %1.").arg(themes),
-                                   tr("name"));
-    const QCommandLineOption language(
-        QStringLiteral("language"), tr("Show texts in <language>, for example de or zh_CN."), tr("language"));
-    const QCommandLineOption pictures(QStringLiteral("pictures"),
-                                      tr("Draw all pages in all themes, or those chosen, into PNG files in "
-                                         "<directory>, and end. Needs no display."),
-                                      tr("directory"));
+    const QCommandLineOption page(QStringLiteral("page"), CommandLine::tr("Show the page <id> first."),
+                                  CommandLine::tr("id"));
+    const QCommandLineOption theme(QStringLiteral("theme"),
+                                   CommandLine::tr("Use the theme <name>: %1.").arg(themes),
+                                   CommandLine::tr("name"));
+    const QCommandLineOption language(QStringLiteral("language"),
+                                      CommandLine::tr("Show texts in <language>, for example en or zh_CN."),
+                                      CommandLine::tr("language"));
+    const QCommandLineOption pictures(
+        QStringLiteral("pictures"),
+        CommandLine::tr("Draw all pages in all themes, or those chosen, into PNG files in "
+                        "<directory>, and end. Needs no display."),
+        CommandLine::tr("directory"));
     QCommandLineParser parser;
-    parser.setApplicationDescription(tr("Shows the widgets of the tarnwidgets library."));
+    parser.setApplicationDescription(CommandLine::tr("Shows the widgets of the tarnwidgets library."));
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({page, theme, language, pictures});
     parser.process(arguments);
 
     if (!parser.positionalArguments().isEmpty())
-        failOnCommandLine(tr("unexpected argument '%1'").arg(parser.positionalArguments().constFirst()));
+        failOnCommandLine(
+            CommandLine::tr("unexpected argument '%1'").arg(parser.positionalArguments().constFirst()));
     if (parser.isSet(theme) && !Appearance::themeNames().contains(parser.value(theme)))
-        failOnCommandLine(tr("no theme '%1'; there are: %2").arg(parser.value(theme), themes));
+        failOnCommandLine(CommandLine::tr("no theme '%1'; there are: %2").arg(parser.value(theme), themes));
     return {parser.value(page), parser.value(theme), parser.value(language), parser.value(pictures)};
 }
 

@@ -8,31 +8,42 @@
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QStyledItemDelegate>
 
 namespace Gallery {
 
-QLabel *createNote(const QString &text)
+QLabel *createNote(const Text &text)
 {
-    auto *note = new QLabel(text);
+    auto *note = new QLabel;
     note->setObjectName(QStringLiteral("galleryNote"));
     note->setWordWrap(true);
+    showText(note, text);
     return note;
 }
 
-void addFormRow(QGridLayout *form, const QString &label, QWidget *field)
+void addFormRow(QGridLayout *form, const Text &label, QWidget *field)
 {
-    auto *labelWidget = new QLabel(label);
+    auto *labelWidget = new QLabel;
+    showText(labelWidget, label);
     labelWidget->setBuddy(field);
     const int row = form->rowCount();
     form->addWidget(labelWidget, row, 0);
     form->addWidget(field, row, 1);
 }
 
-QCheckBox *createCheckBox(const QString &text, bool checked, std::function<void(bool)> onToggled)
+QPushButton *createButton(const Text &text)
 {
-    auto *box = new QCheckBox(text);
+    auto *button = new QPushButton;
+    showText(button, text);
+    return button;
+}
+
+QCheckBox *createCheckBox(const Text &text, bool checked, std::function<void(bool)> onToggled)
+{
+    auto *box = new QCheckBox;
+    showText(box, text);
     box->setChecked(checked);
     QObject::connect(box, &QCheckBox::toggled, box, std::move(onToggled));
     return box;
@@ -43,7 +54,7 @@ QSpinBox *createPixelBox(int minimum, int maximum, int value, std::function<void
     auto *box = new QSpinBox;
     box->setRange(minimum, maximum);
     box->setValue(value);
-    box->setSuffix(QCoreApplication::translate("Gallery", " px"));
+    keepTranslated(box, [box] { box->setSuffix(QCoreApplication::translate("Gallery", " px")); });
     QObject::connect(box, QOverload<int>::of(&QSpinBox::valueChanged), box, std::move(onChanged));
     return box;
 }

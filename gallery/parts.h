@@ -4,14 +4,16 @@
 #ifndef GALLERY_PARTS_H
 #define GALLERY_PARTS_H
 
+#include "texts.h"
+
 #include <QMargins>
-#include <QString>
 #include <functional>
 
 class QCheckBox;
 class QComboBox;
 class QGridLayout;
 class QLabel;
+class QPushButton;
 class QSpinBox;
 class QWidget;
 
@@ -21,14 +23,17 @@ namespace Gallery {
 constexpr QMargins PageMargins(20, 6, 20, 16);
 
 /*! A wrapped, quiet line of explanation. */
-QLabel *createNote(const QString &text);
+QLabel *createNote(const Text &text);
 
 /*! Adds a row to a form made of a grid, with the label at the height of the field's middle. */
-void addFormRow(QGridLayout *form, const QString &label, QWidget *field);
+void addFormRow(QGridLayout *form, const Text &label, QWidget *field);
+
+/*! For the caller to connect. */
+QPushButton *createButton(const Text &text);
 
 /*! A check box that calls \a onToggled when it changes; not at once. Align it, or its focus frame fills the
  * cell. */
-QCheckBox *createCheckBox(const QString &text, bool checked, std::function<void(bool)> onToggled);
+QCheckBox *createCheckBox(const Text &text, bool checked, std::function<void(bool)> onToggled);
 
 /*! A spin box from \a minimum to \a maximum that calls \a onChanged when its value changes; not at once. */
 QSpinBox *createPixelBox(int minimum, int maximum, int value, std::function<void(int)> onChanged);

@@ -6,7 +6,6 @@
 #include "appearance.h"
 #include "mainwindow.h"
 
-#include <QCoreApplication>
 #include <QDialog>
 #include <QPixmap>
 #include <algorithm>
@@ -22,11 +21,6 @@ QtMessageHandler formerHandler = nullptr;
 // A desktop and the smallest device.
 constexpr QSize WindowSizes[] = {{1280, 800}, {800, 480}};
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Gallery::Pictures", text);
-}
-
 /* The offscreen platform's complaint about every window with a minimum size says nothing here. */
 void leaveOutSizeHints(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
@@ -36,8 +30,9 @@ void leaveOutSizeHints(QtMsgType type, const QMessageLogContext &context, const 
 
 } // namespace
 
-Pictures::Pictures(Appearance *appearance, const QString &directory)
+Pictures::Pictures(Appearance *appearance, Language *language, const QString &directory)
     : m_appearance(appearance)
+    , m_language(language)
     , m_directory(directory)
 {
 }
@@ -65,7 +60,7 @@ bool Pictures::drawTheme(const QString &theme, const QVector<Page> &pages)
 
 bool Pictures::drawPages(const QVector<Page> &pages, const QSize &size)
 {
-    MainWindow window(m_appearance);
+    MainWindow window(m_appearance, m_language);
     window.setAttribute(Qt::WA_DontShowOnScreen);
     window.resize(size);
     window.show();

@@ -6,11 +6,14 @@
 
 #include "page.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QSize>
 #include <QStringList>
 
 namespace Gallery {
+
+class Language;
 
 /*!
  * \brief Draws pages and their dialogs into PNG files.
@@ -20,8 +23,10 @@ namespace Gallery {
  */
 class Pictures
 {
+    Q_DECLARE_TR_FUNCTIONS(Gallery::Pictures)
+
 public:
-    Pictures(Appearance *appearance, const QString &directory);
+    Pictures(Appearance *appearance, Language *language, const QString &directory);
 
     /*! Draws all of \a pages in all of \a themes. False, with errorText(), when a file cannot be written. */
     bool draw(const QVector<Page> &pages, const QStringList &themes);
@@ -37,6 +42,7 @@ private:
     bool save(QWidget *widget, const QString &name);
 
     Appearance *const m_appearance;
+    Language *const m_language;
     const QDir m_directory;
     int m_count = 0;
     QString m_errorText;

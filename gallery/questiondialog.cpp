@@ -10,18 +10,19 @@
 
 namespace Gallery {
 
-QuestionDialog::QuestionDialog(const QString &title, const QString &question, const QString &yes,
-                               const QString &no, QWidget *parent)
+QuestionDialog::QuestionDialog(const Text &title, const Text &question, const Text &yes, const Text &no,
+                               QWidget *parent)
     : FramelessDialog(parent)
 {
-    setWindowTitle(title);
-    auto *label = new QLabel(question);
+    keepTranslated(this, [=] { setWindowTitle(title()); });
+    auto *label = new QLabel;
+    showText(label, question);
     label->setWordWrap(true);
     auto *content = new QVBoxLayout(getContentHolder());
     content->setContentsMargins(20, 20, 20, 20);
     content->addWidget(label);
-    m_pOKButton->setText(yes);
-    m_pCancelButton->setText(no);
+    showText(m_pOKButton, yes);
+    showText(m_pCancelButton, no);
     m_pCancelButton->setFocus();
     resize(340, noCentralHeight() + 92);
 }

@@ -4,6 +4,8 @@
 #ifndef GALLERY_QUESTIONDIALOG_H
 #define GALLERY_QUESTIONDIALOG_H
 
+#include "texts.h"
+
 #include <tarnwidgets/framelessdialog.h>
 
 namespace Gallery {
@@ -14,8 +16,7 @@ class QuestionDialog : public Tarn::Widgets::FramelessDialog
     Q_OBJECT
 
 public:
-    QuestionDialog(const QString &title, const QString &question, const QString &yes, const QString &no,
-                   QWidget *parent);
+    QuestionDialog(const Text &title, const Text &question, const Text &yes, const Text &no, QWidget *parent);
     ~QuestionDialog() override;
 
     /*! Shows \a dialog, waits for the answer and deletes the dialog; true for yes. */

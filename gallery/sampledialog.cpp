@@ -21,7 +21,10 @@ namespace {
 QComboBox *createModeBox()
 {
     QComboBox *box = createComboBox();
-    box->addItems({SampleDialog::tr("Automatic"), SampleDialog::tr("By hand"), SampleDialog::tr("Off")});
+    keepTranslated(box, [box] {
+        setRowTexts(box,
+                    {SampleDialog::tr("Automatic"), SampleDialog::tr("By hand"), SampleDialog::tr("Off")});
+    });
     return box;
 }
 
@@ -36,7 +39,8 @@ QSpinBox *createLevelBox()
 
 QCheckBox *createAlarmBox()
 {
-    auto *box = new QCheckBox(SampleDialog::tr("Sound an alarm"));
+    auto *box = new QCheckBox;
+    showText(box, [] { return SampleDialog::tr("Sound an alarm"); });
     box->setChecked(true);
     return box;
 }
@@ -46,14 +50,18 @@ QCheckBox *createAlarmBox()
 SampleDialog::SampleDialog(const DialogOptions &options, QWidget *parent)
     : FramelessDialog(parent)
 {
-    setWindowTitle(tr("Pump settings"));
+    keepTranslated(this, [this] { setWindowTitle(tr("Pump settings")); });
     auto *form = new QGridLayout(getContentHolder());
     form->setContentsMargins(20, 14, 20, 14);
     form->setColumnStretch(1, 1);
-    auto *name = new QLineEdit(tr("Pump 4"));
-    addFormRow(form, tr("Name"), name);
-    addFormRow(form, tr("Mode"), createModeBox());
-    addFormRow(form, tr("Level"), createLevelBox());
+    auto *name = new QLineEdit;
+    showSample(name, [] { return tr("Pump 4"); });
+    addFormRow(
+        form, [] { return tr("Name"); }, name);
+    addFormRow(
+        form, [] { return tr("Mode"); }, createModeBox());
+    addFormRow(
+        form, [] { return tr("Level"); }, createLevelBox());
     form->addWidget(createAlarmBox(), form->rowCount(), 1, Qt::AlignLeft);
     form->setRowStretch(form->rowCount(), 1);
     name->setFocus(); // the bottom bar was there first

@@ -26,6 +26,13 @@ QString widthText(uint width)
     return SeparatorsPage::tr("%1 px").arg(width);
 }
 
+QLabel *createLabel(const Text &text)
+{
+    auto *label = new QLabel;
+    showText(label, text);
+    return label;
+}
+
 } // namespace
 
 SeparatorsPage::SeparatorsPage(QWidget *parent)
@@ -34,11 +41,12 @@ SeparatorsPage::SeparatorsPage(QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(PageMargins);
     layout->setSpacing(10);
+    layout->addWidget(createGroup([] { return tr("The theme's rule, as in dialogs"); },
+                                  QStringLiteral("isBackgroundSeparator")));
     layout->addWidget(
-        createGroup(tr("The theme's rule, as in dialogs"), QStringLiteral("isBackgroundSeparator")));
-    layout->addWidget(createGroup(tr("A rule of the application"), QStringLiteral("isGalleryAccentLine")));
-    layout->addWidget(
-        createGroup(tr("No rule: horizontal lines are not seen"), QStringLiteral("isGalleryPlainLine")));
+        createGroup([] { return tr("A rule of the application"); }, QStringLiteral("isGalleryAccentLine")));
+    layout->addWidget(createGroup([] { return tr("No rule: horizontal lines are not seen"); },
+                                  QStringLiteral("isGalleryPlainLine")));
     layout->addWidget(createWidthChooser());
     layout->addStretch();
 }
@@ -54,9 +62,10 @@ Page SeparatorsPage::page()
             {}};
 }
 
-QWidget *SeparatorsPage::createGroup(const QString &title, const QString &propertyName)
+QWidget *SeparatorsPage::createGroup(const Text &title, const QString &propertyName)
 {
-    auto *group = new QGroupBox(title, this);
+    auto *group = new QGroupBox(this);
+    showText(group, title);
     auto *layout = new QGridLayout(group);
     layout->setHorizontalSpacing(24);
     layout->addWidget(createHorizontalLines(propertyName), 0, 0);
@@ -73,15 +82,15 @@ QWidget *SeparatorsPage::createHorizontalLines(const QString &propertyName)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setVerticalSpacing(2);
     int row = 0;
-    const auto add = [&](uint width, const QString &text) {
+    const auto add = [&](uint width, const Text &text) {
         QFrame *line = FrameLine::createHorizontalLine(propertyName, lines, width, 0, 0);
-        layout->addWidget(new QLabel(text), row, 0);
+        layout->addWidget(createLabel(text), row, 0);
         layout->addWidget(line, row++, 1);
         return line;
     };
     for (const uint width : Widths)
-        add(width, widthText(width));
-    m_chosenHorizontal.append(add(ChosenWidth, tr("Chosen")));
+        add(width, [width] { return widthText(width); });
+    m_chosenHorizontal.append(add(ChosenWidth, [] { return tr("Chosen"); }));
     return lines;
 }
 
@@ -92,15 +101,15 @@ QWidget *SeparatorsPage::createVerticalLines(const QString &propertyName)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setVerticalSpacing(2);
     int column = 0;
-    const auto add = [&](uint width, const QString &text) {
+    const auto add = [&](uint width, const Text &text) {
         QFrame *line = FrameLine::createVerticalLine(propertyName, lines, width, 0, 0);
         layout->addWidget(line, 0, column, Qt::AlignHCenter);
-        layout->addWidget(new QLabel(text), 1, column++, Qt::AlignHCenter);
+        layout->addWidget(createLabel(text), 1, column++, Qt::AlignHCenter);
         return line;
     };
     for (const uint width : Widths)
-        add(width, widthText(width));
-    m_chosenVertical.append(add(ChosenWidth, tr("Chosen")));
+        add(width, [width] { return widthText(width); });
+    m_chosenVertical.append(add(ChosenWidth, [] { return tr("Chosen"); }));
     return lines;
 }
 
@@ -109,7 +118,7 @@ QWidget *SeparatorsPage::createWidthChooser()
     auto *row = new QWidget(this);
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new QLabel(tr("Chosen width")));
+    layout->addWidget(createLabel([] { return tr("Chosen width"); }));
     layout->addWidget(createPixelBox(1, 24, int(ChosenWidth), [this](int width) { setChosenWidth(width); }));
     layout->addStretch();
     return row;

@@ -5,6 +5,7 @@
 #define GALLERY_SEPARATORSPAGE_H
 
 #include "page.h"
+#include "texts.h"
 
 #include <QWidget>
 
@@ -25,7 +26,7 @@ public:
     static Page page();
 
 private:
-    QWidget *createGroup(const QString &title, const QString &propertyName);
+    QWidget *createGroup(const Text &title, const QString &propertyName);
     QWidget *createHorizontalLines(const QString &propertyName);
     QWidget *createVerticalLines(const QString &propertyName);
     QWidget *createWidthChooser();

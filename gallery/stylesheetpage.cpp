@@ -31,16 +31,18 @@ constexpr char Example[] = "QPushButton {\n  border-radius: 12px;\n}\n\n"
                            "QLabel[isTitleBarTitle=\"true\"] {\n  font-style: italic;\n}\n";
 
 /* Why QssLoader, which says only that it got no text, got none from \a path. */
-QString whyNotLoaded(const QString &path)
+Text whyNotLoaded(const QString &path)
 {
+    if (path.isEmpty())
+        return [] { return StyleSheetPage::tr("Which file?"); };
     const QFileInfo file(path);
     if (!file.exists())
-        return StyleSheetPage::tr("There is no file %1.").arg(path);
+        return [=] { return StyleSheetPage::tr("There is no file %1.").arg(path); };
     if (!file.isFile())
-        return StyleSheetPage::tr("%1 is not a file.").arg(path);
+        return [=] { return StyleSheetPage::tr("%1 is not a file.").arg(path); };
     if (!file.isReadable())
-        return StyleSheetPage::tr("%1 may not be read.").arg(path);
-    return StyleSheetPage::tr("%1 is empty.").arg(path);
+        return [=] { return StyleSheetPage::tr("%1 may not be read.").arg(path); };
+    return [=] { return StyleSheetPage::tr("%1 is empty.").arg(path); };
 }
 
 } // namespace
@@ -56,7 +58,7 @@ StyleSheetPage::StyleSheetPage(Appearance *appearance, QWidget *parent)
     layout->addWidget(createFileRow());
     layout->addWidget(createEditor(), 1);
     layout->addWidget(createActionRow());
-    showMessage(tr("Not applied yet."));
+    showMessage([] { return tr("Not applied yet."); });
 }
 
 StyleSheetPage::~StyleSheetPage() = default;
@@ -75,11 +77,12 @@ Page StyleSheetPage::page()
 QWidget *StyleSheetPage::createFileRow()
 {
     auto *row = new QWidget(this);
-    auto *label = new QLabel(tr("File"), row);
+    auto *label = new QLabel(row);
+    showText(label, [] { return tr("File"); });
     m_path = new QLineEdit(row);
     label->setBuddy(m_path);
-    auto *browseButton = new QPushButton(tr("Browse…"), row);
-    auto *loadButton = new QPushButton(tr("Load"), row);
+    auto *browseButton = createButton([] { return tr("Browse…"); });
+    auto *loadButton = createButton([] { return tr("Load"); });
     connect(m_path, &QLineEdit::returnPressed, this, &StyleSheetPage::load);
     connect(browseButton, &QPushButton::clicked, this, &StyleSheetPage::browse);
     connect(loadButton, &QPushButton::clicked, this, &StyleSheetPage::load);
@@ -97,7 +100,7 @@ QWidget *StyleSheetPage::createFileRow()
 QWidget *StyleSheetPage::createEditor()
 {
     m_editor = new QPlainTextEdit(QString::fromLatin1(Example), this);
-    m_editor->setAccessibleName(tr("Rules"));
+    keepTranslated(m_editor, [this] { m_editor->setAccessibleName(tr("Rules")); });
     QFont font(QStringLiteral("monospace"));
     font.setStyleHint(QFont::Monospace);
     font.setPixelSize(FontPixels);
@@ -117,9 +120,9 @@ QWidget *StyleSheetPage::createActionRow()
     m_message = new QLabel(row);
     m_message->setObjectName(QStringLiteral("galleryMessage"));
     m_message->setWordWrap(true);
-    m_live = createCheckBox(tr("Apply while typing"), true, [this](bool) { applyIfLive(); });
-    auto *applyButton = new QPushButton(tr("Apply"), row);
-    auto *revertButton = new QPushButton(tr("Revert"), row);
+    m_live = createCheckBox([] { return tr("Apply while typing"); }, true, [this](bool) { applyIfLive(); });
+    auto *applyButton = createButton([] { return tr("Apply"); });
+    auto *revertButton = createButton([] { return tr("Revert"); });
     connect(applyButton, &QPushButton::clicked, this, &StyleSheetPage::apply);
     connect(revertButton, &QPushButton::clicked, this, &StyleSheetPage::revert);
 
@@ -149,7 +152,7 @@ void StyleSheetPage::load()
     const QString path = QDir::fromNativeSeparators(m_path->text());
     const QString rules = path.isEmpty() ? QString() : QssLoader::load(path);
     if (rules.isNull()) {
-        showMessage(path.isEmpty() ? tr("Which file?") : whyNotLoaded(path), true);
+        showMessage(whyNotLoaded(path), true);
         return;
     }
     m_editor->setPlainText(rules);
@@ -160,9 +163,9 @@ void StyleSheetPage::apply()
 {
     m_typingPause->stop();
     if (m_appearance->setExtraRules(m_editor->toPlainText()))
-        showMessage(tr("Applied."));
+        showMessage([] { return tr("Applied."); });
     else
-        showMessage(tr("There is an error; the former rules stay."), true);
+        showMessage([] { return tr("There is an error; the former rules stay."); }, true);
 }
 
 void StyleSheetPage::applyIfLive()
@@ -175,12 +178,12 @@ void StyleSheetPage::revert()
 {
     m_typingPause->stop();
     m_appearance->setExtraRules(QString());
-    showMessage(tr("Back to the theme; these rules are not applied."));
+    showMessage([] { return tr("Back to the theme; these rules are not applied."); });
 }
 
-void StyleSheetPage::showMessage(const QString &message, bool isError)
+void StyleSheetPage::showMessage(const Text &message, bool isError)
 {
-    m_message->setText(message);
+    showText(m_message, message);
     m_message->setProperty("isGalleryError", isError);
     m_message->style()->unpolish(m_message);
     m_message->style()->polish(m_message);

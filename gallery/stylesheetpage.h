@@ -5,6 +5,7 @@
 #define GALLERY_STYLESHEETPAGE_H
 
 #include "page.h"
+#include "texts.h"
 
 #include <QWidget>
 
@@ -37,7 +38,7 @@ private:
     void apply();
     void applyIfLive();
     void revert();
-    void showMessage(const QString &message, bool isError = false);
+    void showMessage(const Text &message, bool isError = false);
 
     Appearance *const m_appearance;
     QTimer *const m_typingPause;

@@ -5,12 +5,14 @@
 #define GALLERY_TABSPAGE_H
 
 #include "page.h"
+#include "texts.h"
 
 #include <QVector>
 #include <QWidget>
 #include <functional>
 
 class QLabel;
+class QToolButton;
 
 namespace Tarn::Widgets {
 class TarnTabBar;
@@ -34,6 +36,7 @@ private:
     using TabBar = Tarn::Widgets::TarnTabBar;
 
     QWidget *createBar();
+    QToolButton *createSideWidget(const Text &text, const Text &toolTip);
     QWidget *createPages();
     QWidget *createSwitches();
     QWidget *createSizes();
@@ -44,15 +47,19 @@ private:
     void setSideWidgetsVisible(bool visible);
     void setSpacing(int spacing);
     void setIconsVisible(bool visible);
+    void addTab(int number);
     void insertPage(int index);
+    void retranslateTabs();
+    void showToolTips();
     void renameCurrent(const QString &text);
-    void report(const QString &line);
+    void report(const Text &line);
 
     TabBar *m_bar = nullptr;
     Tarn::Widgets::TarnTabWidget *m_tabs = nullptr;
     QVector<QWidget *> m_sideWidgets;
     QLabel *m_report = nullptr;
     int m_pagesMade = 0;
+    bool m_hasToolTips = false;
 };
 
 } // namespace Gallery

@@ -33,9 +33,10 @@ constexpr QSize ExtraIconSize(16, 16);
 
 QuestionDialog *createCloseQuestion(QWidget *parent)
 {
-    return new QuestionDialog(TitleBarPage::tr("Close"),
-                              TitleBarPage::tr("Some changes are not stored. Close all the same?"),
-                              TitleBarPage::tr("Close"), TitleBarPage::tr("Stay"), parent);
+    const Text close = [] { return TitleBarPage::tr("Close"); };
+    const Text question = [] { return TitleBarPage::tr("Some changes are not stored. Close all the same?"); };
+    return new QuestionDialog(
+        close, question, close, [] { return TitleBarPage::tr("Stay"); }, parent);
 }
 
 } // namespace
@@ -75,10 +76,13 @@ QWidget *TitleBarPage::createSpecimen()
     auto *frame = new StyleSheetWidget(this);
     frame->setObjectName(QStringLiteral("gallerySpecimen"));
     m_bar = new TitleBar(frame);
-    m_bar->setTitle(tr("Pump station 4"));
     m_bar->setMaximized(false);
-    addExtraButton(QStringLiteral("?"), tr("Help"));
-    addExtraButton(QStringLiteral("+"), tr("New window"));
+    QAction *help = addExtraButton(QStringLiteral("?"));
+    QAction *newWindow = addExtraButton(QStringLiteral("+"));
+    keepTranslated(m_bar, [=] {
+        help->setToolTip(tr("Help"));
+        newWindow->setToolTip(tr("New window"));
+    });
 
     auto *layout = new QVBoxLayout(frame);
     layout->setContentsMargins(1, 1, 1, 1);
@@ -88,55 +92,67 @@ QWidget *TitleBarPage::createSpecimen()
     return frame;
 }
 
-void TitleBarPage::addExtraButton(const QString &text, const QString &toolTip)
+QAction *TitleBarPage::addExtraButton(const QString &text)
 {
     auto *action = new QAction(text, m_bar);
-    action->setToolTip(toolTip);
-    connect(action, &QAction::triggered, this, [this, toolTip] { log(tr("Extra button: %1").arg(toolTip)); });
+    connect(action, &QAction::triggered, this,
+            [=] { log([=] { return tr("Extra button: %1").arg(action->toolTip()); }); });
     m_bar->appendExtendTitleButton(action, ExtraButtonSize, ExtraIconSize);
+    return action;
 }
 
 QWidget *TitleBarPage::createButtonSwitches()
 {
-    auto *group = new QGroupBox(tr("Buttons"), this);
+    auto *group = new QGroupBox(this);
+    showText(group, [] { return tr("Buttons"); });
     auto *layout = new QGridLayout(group);
-    const auto addSwitch = [=](int row, int column, const QString &text,
-                               std::function<void(bool)> onToggled) {
+    const auto addSwitch = [=](int row, int column, const Text &text, std::function<void(bool)> onToggled) {
         layout->addWidget(createCheckBox(text, true, std::move(onToggled)), row, column, Qt::AlignLeft);
     };
-    const auto addButtonSwitch = [=](int row, int column, const QString &text, int button) {
+    const auto addButtonSwitch = [=](int row, int column, const Text &text, int button) {
         addSwitch(row, column, text, [=](bool visible) { m_bar->setTitleButtonVisible(button, visible); });
     };
-    addButtonSwitch(0, 0, tr("Logo"), Logo);
-    addButtonSwitch(0, 1, tr("Minimise"), Minimize);
-    addButtonSwitch(1, 0, tr("Maximise"), Maximize);
-    addButtonSwitch(1, 1, tr("Restore"), Restore);
-    addButtonSwitch(2, 0, tr("Close"), Close);
-    addSwitch(2, 1, tr("Extra buttons"), [this](bool visible) { setExtraButtonsVisible(visible); });
+    addButtonSwitch(
+        0, 0, [] { return tr("Logo"); }, Logo);
+    addButtonSwitch(
+        0, 1, [] { return tr("Minimise"); }, Minimize);
+    addButtonSwitch(
+        1, 0, [] { return tr("Maximise"); }, Maximize);
+    addButtonSwitch(
+        1, 1, [] { return tr("Restore"); }, Restore);
+    addButtonSwitch(
+        2, 0, [] { return tr("Close"); }, Close);
+    addSwitch(
+        2, 1, [] { return tr("Extra buttons"); }, [this](bool visible) { setExtraButtonsVisible(visible); });
     layout->setVerticalSpacing(0);
     return group;
 }
 
 QWidget *TitleBarPage::createTitleSwitches()
 {
-    auto *group = new QGroupBox(tr("Title"), this);
-    auto *title = new QLineEdit(m_bar->title());
+    auto *group = new QGroupBox(this);
+    showText(group, [] { return tr("Title"); });
+    auto *title = new QLineEdit;
     connect(title, &QLineEdit::textChanged, m_bar, &TitleBar::setTitle);
+    showSample(title, [] { return tr("Pump station 4"); });
 
     auto *layout = new QGridLayout(group);
-    addFormRow(layout, tr("Text"), title);
-    addFormRow(layout, tr("Alignment"), createAlignmentChooser());
-    layout->addWidget(createCheckBox(tr("Visible"), true, [this](bool on) { m_bar->setTitleVisible(on); }),
-                      layout->rowCount(), 1, Qt::AlignLeft);
+    addFormRow(
+        layout, [] { return tr("Text"); }, title);
+    addFormRow(
+        layout, [] { return tr("Alignment"); }, createAlignmentChooser());
+    layout->addWidget(
+        createCheckBox([] { return tr("Visible"); }, true, [this](bool on) { m_bar->setTitleVisible(on); }),
+        layout->rowCount(), 1, Qt::AlignLeft);
     return group;
 }
 
 QWidget *TitleBarPage::createAlignmentChooser()
 {
     auto *box = createComboBox();
-    box->addItem(tr("Left"), int(Qt::AlignLeft));
-    box->addItem(tr("Centre"), int(Qt::AlignHCenter));
-    box->addItem(tr("Right"), int(Qt::AlignRight));
+    for (const Qt::AlignmentFlag alignment : {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight})
+        box->addItem(QString(), int(alignment));
+    keepTranslated(box, [box] { setRowTexts(box, {tr("Left"), tr("Centre"), tr("Right")}); });
     connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), m_bar, [this, box](int index) {
         m_bar->setTitleAlignment(Qt::Alignment(box->itemData(index).toInt()) | Qt::AlignVCenter);
     });
@@ -145,27 +161,28 @@ QWidget *TitleBarPage::createAlignmentChooser()
 
 QWidget *TitleBarPage::createLog()
 {
-    auto *group = new QGroupBox(tr("Signals"), this);
-    m_log = new QListWidget(group);
-    m_log->setAccessibleName(tr("Signals"));
+    auto *group = new QGroupBox(this);
+    showText(group, [] { return tr("Signals"); });
+    m_log = createLogList([] { return tr("Signals"); });
     m_log->setFocusPolicy(Qt::TabFocus);
-    auto *clear = new QPushButton(tr("Clear"), group);
+    auto *clear = createButton([] { return tr("Clear"); });
     connect(clear, &QPushButton::clicked, m_log, &QListWidget::clear);
 
     auto *layout = new QGridLayout(group);
     layout->addWidget(m_log, 0, 0, 1, 2);
-    layout->addWidget(createCheckBox(tr("Ask before closing"), true, [this](bool on) { setCloseAsks(on); }),
-                      1, 0, Qt::AlignLeft);
+    layout->addWidget(
+        createCheckBox([] { return tr("Ask before closing"); }, true, [this](bool on) { setCloseAsks(on); }),
+        1, 0, Qt::AlignLeft);
     layout->addWidget(clear, 1, 1, Qt::AlignRight);
     return group;
 }
 
 void TitleBarPage::connectSignals()
 {
-    connect(m_bar, &TitleBar::minimuned, this, [this] { log(QStringLiteral("minimuned()")); });
-    connect(m_bar, &TitleBar::maximumed, this, [this] { log(QStringLiteral("maximumed()")); });
-    connect(m_bar, &TitleBar::normaled, this, [this] { log(QStringLiteral("normaled()")); });
-    connect(m_bar, &TitleBar::closed, this, [this] { log(QStringLiteral("closed()")); });
+    connect(m_bar, &TitleBar::minimuned, this, [this] { log([] { return QStringLiteral("minimuned()"); }); });
+    connect(m_bar, &TitleBar::maximumed, this, [this] { log([] { return QStringLiteral("maximumed()"); }); });
+    connect(m_bar, &TitleBar::normaled, this, [this] { log([] { return QStringLiteral("normaled()"); }); });
+    connect(m_bar, &TitleBar::closed, this, [this] { log([] { return QStringLiteral("closed()"); }); });
 }
 
 void TitleBarPage::setExtraButtonsVisible(bool visible)
@@ -189,14 +206,13 @@ bool TitleBarPage::askBeforeClosing()
 {
     const bool closes = QuestionDialog::ask(createCloseQuestion(this));
     if (!closes)
-        log(tr("The close function said no"));
+        log([] { return tr("The close function said no"); });
     return closes;
 }
 
-void TitleBarPage::log(const QString &line)
+void TitleBarPage::log(const Text &line)
 {
-    m_log->addItem(line);
-    m_log->scrollToBottom();
+    addLine(m_log, line);
 }
 
 } // namespace Gallery

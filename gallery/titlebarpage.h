@@ -5,9 +5,11 @@
 #define GALLERY_TITLEBARPAGE_H
 
 #include "page.h"
+#include "texts.h"
 
 #include <QWidget>
 
+class QAction;
 class QListWidget;
 
 namespace Tarn::Widgets {
@@ -33,13 +35,13 @@ private:
     QWidget *createTitleSwitches();
     QWidget *createAlignmentChooser();
     QWidget *createLog();
-    void addExtraButton(const QString &text, const QString &toolTip);
+    QAction *addExtraButton(const QString &text);
     void connectSignals();
 
     void setExtraButtonsVisible(bool visible);
     void setCloseAsks(bool asks);
     bool askBeforeClosing();
-    void log(const QString &line);
+    void log(const Text &line);
 
     Tarn::Widgets::TitleBar *m_bar = nullptr;
     QListWidget *m_log = nullptr;

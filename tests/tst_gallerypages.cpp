@@ -29,6 +29,7 @@
 #include <QTreeWidget>
 #include <appearance.h>
 #include <colorswatch.h>
+#include <language.h>
 #include <mainwindow.h>
 #include <optional>
 #include <page.h>
@@ -204,7 +205,8 @@ void tst_GalleryPages::everyPageFitsASmallDevice()
     // GIVEN the gallery on the smallest screen
     Appearance appearance(QStringLiteral(TARN_THEMES_DIR));
     appearance.setTheme(QStringLiteral("light"));
-    MainWindow window(&appearance);
+    Language language((QString()));
+    MainWindow window(&appearance, &language);
     window.resize(800, 480);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
@@ -225,7 +227,8 @@ void tst_GalleryPages::choosingAThemeRestylesEverything()
     // GIVEN the gallery in the dark theme
     Appearance appearance(QStringLiteral(TARN_THEMES_DIR));
     appearance.setTheme(QStringLiteral("dark"));
-    MainWindow window(&appearance);
+    Language language((QString()));
+    MainWindow window(&appearance, &language);
     window.resize(800, 480);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
@@ -253,7 +256,8 @@ void tst_GalleryPages::unknownThemesAndPagesAreIgnored()
 {
     Appearance appearance(QStringLiteral(TARN_THEMES_DIR));
     appearance.setTheme(QStringLiteral("light"));
-    MainWindow window(&appearance);
+    Language language((QString()));
+    MainWindow window(&appearance, &language);
     window.showPage(QStringLiteral("separators"));
     const auto *list = window.findChild<QListWidget *>(QStringLiteral("galleryPages"));
     const int row = list->currentRow();
