@@ -40,7 +40,8 @@ QString resolved(QString path)
     QStringList missing;
     for (;;) {
         const QFileInfo info(path);
-        const QString canonical = info.canonicalFilePath();
+        // Qt returns the path as it is where the system fails for another reason than that nothing is there.
+        const QString canonical = info.exists() ? info.canonicalFilePath() : QString();
         if (!canonical.isEmpty())
             return QDir::cleanPath(canonical + QLatin1Char('/') + missing.join(QLatin1Char('/')));
         const int slash = path.lastIndexOf(QLatin1Char('/'));

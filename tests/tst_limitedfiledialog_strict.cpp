@@ -571,6 +571,9 @@ void tst_LimitedFileDialogStrict::followsLinks_data()
     QTest::newRow("inside only for those who do not") << "outside/in/../file.txt" << false;
     QTest::newRow("a dangling link") << "root/dangling" << false;
     QTest::newRow("a file to be behind a dangling link") << "root/dangling/new.txt" << false;
+    QTest::newRow("a file to be behind a link to itself") << "root/loop/new.txt" << false;
+    QTest::newRow("a name behind a link that is too long for a file")
+        << QStringLiteral("root/linkdir/") + QString(300, QLatin1Char('n')) << false;
     QTest::newRow("a null character behind a link") << QStringLiteral("root/linkfile") + QChar(0) << false;
 }
 
@@ -580,6 +583,7 @@ void tst_LimitedFileDialogStrict::followsLinks()
     QFETCH(bool, fits);
     const LimitTree tree;
     QVERIFY(QFile::link(tree.at("root/sub/deep"), tree.at("outside/in")));
+    QVERIFY(QFile::link(tree.at("root/loop"), tree.at("root/loop")));
     LimitedFileDialog dialog;
     dialog.setStrict(true);
     dialog.setLimitedPath(tree.at("root"));
