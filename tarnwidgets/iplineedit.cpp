@@ -109,12 +109,13 @@ public:
     void fill(const QStringList &parts) const;
     void normalize(QLineEdit *field) const;
     template <typename Change> void changeAtOnce(Change change);
-    void announceChange() const;
+    void announceChange();
 
     IPLineEdit *const q;
     std::array<QLineEdit *, FieldCount> m_fields{};
     bool m_bAcceptsAnyAddress = false;
     bool m_bChanging = false;
+    QString m_announced; // the address as it is known
 };
 
 IPLineEditPrivate::IPLineEditPrivate(IPLineEdit *q)
@@ -294,18 +295,20 @@ template <typename Change> void IPLineEditPrivate::changeAtOnce(Change change)
         change();
         return;
     }
-    const QString before = q->text();
     m_bChanging = true;
     change();
     m_bChanging = false;
-    if (q->text() != before)
-        announceChange();
+    announceChange();
 }
 
-void IPLineEditPrivate::announceChange() const
+/* A field also tells of a text that took the place of the same text. */
+void IPLineEditPrivate::announceChange()
 {
-    if (!m_bChanging)
-        Q_EMIT q->addressChanged(q->text());
+    const QString address = q->text();
+    if (m_bChanging || address == m_announced)
+        return;
+    m_announced = address;
+    Q_EMIT q->addressChanged(address);
 }
 
 IPLineEdit::IPLineEdit(QWidget *parent)
@@ -313,6 +316,7 @@ IPLineEdit::IPLineEdit(QWidget *parent)
     , d(std::make_unique<IPLineEditPrivate>(this))
 {
     createWidgets();
+    d->m_announced = text();
     createConnects();
 }
 

@@ -796,6 +796,11 @@ void tst_IPLineEdit::changeIsAnnouncedOnce_data()
     QTest::newRow("a digit typed") << Change([](AddressForm &form) {
         QTest::keyClick(form.fields[0], Qt::Key_1);
     }) << QStringList({QStringLiteral("101.20.30.40")});
+    QTest::newRow("a digit typed over itself") << Change([](AddressForm &form) {
+        form.edit->setText(QStringLiteral("1.20.30.40"));
+        form.fields[0]->selectAll();
+        QTest::keyClick(form.fields[0], Qt::Key_1);
+    }) << QStringList({QStringLiteral("1.20.30.40")});
     QTest::newRow("a zero inserted") << Change([](AddressForm &form) {
         QTest::keyClick(form.fields[0], Qt::Key_0);
     }) << QStringList({QStringLiteral("100.20.30.40")});
