@@ -36,6 +36,13 @@ struct Form : QWidget
     void checkName();
 };
 
+namespace Ui {
+struct Settings
+{
+    void setupUi(QWidget *widget);
+};
+} // namespace Ui
+
 using MonitorPage = QWidget;
 
 bool mayClose(QWidget *window);

@@ -200,6 +200,7 @@ function(step_examples)
             build_by_qmake(${SCRATCH_DIR}/examples/${name} ${project}/project.pro
                 CONFIG+=c++17 SOURCES+=dialog.cpp TARN=${prefix})
         else()
+            file(TOUCH ${project}/settings.ui)
             file(MAKE_DIRECTORY ${project}/third-party)
             file(CREATE_LINK ${PROJECT_DIR} ${project}/third-party/tarnwidgets SYMBOLIC)
             configure(${project} ${SCRATCH_DIR}/examples/${name}
