@@ -10,6 +10,7 @@
 
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QDir>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -38,6 +39,19 @@ QString codeFor(const QColor &initial)
         .arg(initial.name());
 }
 
+/* The whole path is on the tool tip: pictures are the same wherever the program lies. */
+QLabel *createPlaceNote()
+{
+    const QDir place(QCoreApplication::applicationDirPath());
+    const QString shortened = QStringLiteral("\u2026/") + place.dirName();
+    QLabel *note = createNote([shortened] {
+        return ColorDialogPage::tr("Custom colours are kept beside the program, in\n%1/customSettingCfg.info")
+            .arg(shortened);
+    });
+    note->setToolTip(place.filePath(QStringLiteral("customSettingCfg.info")));
+    return note;
+}
+
 QDialog *createExhibit(QWidget *parent)
 {
     return new ColorDialog(QColor(FirstColor), parent);
@@ -52,10 +66,7 @@ ColorDialogPage::ColorDialogPage(Appearance *appearance, QWidget *parent)
     choices->setSpacing(10);
     choices->addWidget(createChoices());
     choices->addWidget(createOpenButtons());
-    choices->addWidget(createNote([] {
-        return tr("Custom colours are kept beside the program, in\n%1/customSettingCfg.info")
-            .arg(QCoreApplication::applicationDirPath());
-    }));
+    choices->addWidget(createPlaceNote());
     choices->addStretch();
 
     // One for all pictures: a dialog writes the custom colours when it is destroyed.

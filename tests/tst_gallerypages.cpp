@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QDragEnterEvent>
 #include <QFile>
 #include <QGroupBox>
@@ -172,6 +173,7 @@ private Q_SLOTS:
     void chosenColorGoesIntoTheSwatch_data();
     void chosenColorGoesIntoTheSwatch();
     void colorDialogBeginsAsTheCodeTells();
+    void colorPageShowsTheLastPartOfTheProgramsPlace();
     void colorIsDraggedFromAModelessDialogToTheSwatch();
     void swatchTakesColorsOnly();
 
@@ -649,6 +651,19 @@ void tst_GalleryPages::colorDialogBeginsAsTheCodeTells()
     });
     stage.click(QStringLiteral("Choose"));
     QVERIFY(driver.ran());
+}
+
+// The pictures of the page are the same on every machine; a user finds the whole path on the tool tip.
+void tst_GalleryPages::colorPageShowsTheLastPartOfTheProgramsPlace()
+{
+    const QDir place(QCoreApplication::applicationDirPath());
+    const Stage stage(QStringLiteral("colour-dialog"));
+    const auto *note = findByText<QLabel>(
+        stage.page.get(),
+        QStringLiteral("Custom colours are kept beside the program, in\n\u2026/%1/customSettingCfg.info")
+            .arg(place.dirName()));
+    QVERIFY(note);
+    QCOMPARE(note->toolTip(), place.filePath(QStringLiteral("customSettingCfg.info")));
 }
 
 void tst_GalleryPages::colorIsDraggedFromAModelessDialogToTheSwatch()
