@@ -5,11 +5,15 @@
 #include "support/leftovers.h"
 #include "support/messagesentry.h"
 #include "support/modaldriver.h"
+#include "support/picturecomparison.h"
 #include "support/stateguard.h"
 
 #include <QDialog>
+#include <QDir>
 #include <QHoverEvent>
+#include <QImage>
 #include <QMouseEvent>
+#include <QTemporaryDir>
 #include <QTest>
 #include <tarnwidgets/framelessdialog.h>
 #include <tarnwidgets/framelesshelper.h>
@@ -54,6 +58,33 @@ protected:
     }
 };
 
+/* Two directories with the same picture. */
+class TwoPictures
+{
+public:
+    TwoPictures()
+    {
+        for (const QDir &directory : {first, second}) {
+            directory.mkpath(QStringLiteral("."));
+            picture().save(directory.filePath(QStringLiteral("a.png")));
+        }
+    }
+
+    static QImage picture()
+    {
+        QImage image(4, 4, QImage::Format_ARGB32);
+        image.fill(QColor(100, 100, 100));
+        return image;
+    }
+
+private:
+    const QTemporaryDir m_top;
+
+public:
+    const QDir first = m_top.filePath(QStringLiteral("first"));
+    const QDir second = m_top.filePath(QStringLiteral("second"));
+};
+
 void accept(QWidget *dialog)
 {
     qobject_cast<QDialog *>(dialog)->accept();
@@ -82,6 +113,11 @@ private Q_SLOTS:
     void driverActsOnTheDialog();
     void driverActsOnNestedDialogs();
     void driverActsOnTheSameDialogAgain();
+
+    void equalPicturesHaveNoDifferences();
+    void differencesOfPicturesAreTold_data();
+    void differencesOfPicturesAreTold();
+    void roundingOfTranslucentColorsIsNoDifference();
 };
 
 void tst_TestSupport::eventsKeepTheirFractions()
@@ -259,6 +295,72 @@ void tst_TestSupport::driverActsOnTheSameDialogAgain()
     QCOMPARE(dialog.exec(), int(QDialog::Rejected));
 
     QVERIFY(driver.ran());
+}
+
+void tst_TestSupport::equalPicturesHaveNoDifferences()
+{
+    const TwoPictures both;
+    QCOMPARE(picturesIn(both.first), QStringList(QStringLiteral("a.png")));
+    QCOMPARE(picturesIn(both.second), QStringList(QStringLiteral("a.png")));
+    QCOMPARE(pictureDifferences(both.first, both.second), QStringList());
+}
+
+void tst_TestSupport::differencesOfPicturesAreTold_data()
+{
+    QTest::addColumn<QImage>("changed"); // the second a.png, none if null
+    QTest::addColumn<QString>("told");
+
+    QImage pixels = TwoPictures::picture();
+    pixels.setPixelColor(2, 1, QColor(100, 101, 100));
+    QTest::newRow("one pixel by one")
+        << pixels << QStringLiteral("a.png: 1 pixels differ, by up to 1 of 255, within 1x1 at 2,1");
+    pixels.setPixelColor(1, 3, QColor(100, 100, 60));
+    QTest::newRow("two pixels") << pixels
+                                << QStringLiteral(
+                                       "a.png: 2 pixels differ, by up to 40 of 255, within 2x3 at 1,1");
+    QImage translucent = TwoPictures::picture();
+    translucent.setPixelColor(0, 0, QColor(100, 100, 100, 250));
+    QTest::newRow("translucency") << translucent
+                                  << QStringLiteral(
+                                         "a.png: 1 pixels differ, by up to 5 of 255, within 1x1 at 0,0");
+    QTest::newRow("the size") << pixels.copy(0, 0, 4, 3) << QStringLiteral("a.png: 4x4 and 4x3 pixels");
+    QTest::newRow("a missing one") << QImage() << QStringLiteral("a.png: only in first");
+}
+
+void tst_TestSupport::differencesOfPicturesAreTold()
+{
+    QFETCH(QImage, changed);
+    QFETCH(QString, told);
+
+    // GIVEN two directories that differ
+    const TwoPictures both;
+    const QString path = both.second.filePath(QStringLiteral("a.png"));
+    QVERIFY(changed.isNull() ? QFile::remove(path) : changed.save(path));
+
+    // WHEN they are compared either way
+    const QStringList there = pictureDifferences(both.first, both.second);
+    const QStringList back = pictureDifferences(both.second, both.first);
+
+    // THEN each tells it
+    told.replace(QLatin1String("first"), both.first.path());
+    QCOMPARE(there, QStringList(told));
+    QCOMPARE(back.count(), 1);
+}
+
+void tst_TestSupport::roundingOfTranslucentColorsIsNoDifference()
+{
+    // GIVEN two translucent colours that are one when they are painted, and differ by one in a file
+    const TwoPictures both;
+    const QColor colors[] = {QColor(124, 128, 137, 128), QColor(124, 127, 137, 128)};
+    const QDir *const directories[] = {&both.first, &both.second};
+    for (int i = 0; i < 2; ++i) {
+        QImage image = TwoPictures::picture();
+        image.setPixelColor(0, 0, colors[i]);
+        QVERIFY(image.save(directories[i]->filePath(QStringLiteral("a.png"))));
+        QCOMPARE(QImage(directories[i]->filePath(QStringLiteral("a.png"))).pixelColor(0, 0), colors[i]);
+    }
+
+    QCOMPARE(pictureDifferences(both.first, both.second), QStringList());
 }
 
 QTEST_MAIN(tst_TestSupport)
