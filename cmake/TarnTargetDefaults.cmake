@@ -30,10 +30,18 @@ function(tarn_strict_qt target)
         QT_NO_FOREACH)
 endfunction()
 
-# For our shared libraries: nothing undefined, and nothing visible but our own exported classes.
+# For the sources of our shared libraries: the linker can leave out what no exported symbol leads to, and a call within
+# a source file goes straight to its function. The address of a function stays the one that the program sees, which
+# -Bsymbolic-functions would change: in a program without -fPIC, as Qt for AArch64 allows, a connection to a signal by
+# its function pointer would then fail.
+function(tarn_lean_objects target)
+    target_compile_options(${target} PRIVATE -ffunction-sections -fdata-sections -fno-semantic-interposition)
+endfunction()
+
+# For our shared libraries: nothing undefined, nothing unreached, and nothing visible but our own exported classes.
 function(tarn_link_strictly target)
     set(exports ${PROJECT_SOURCE_DIR}/cmake/exports.map)
-    target_link_options(${target} PRIVATE -Wl,--version-script=${exports})
+    target_link_options(${target} PRIVATE -Wl,--version-script=${exports} -Wl,--gc-sections)
     # Clang leaves the sanitizers' symbols to the program.
     if(NOT TARN_SANITIZE OR NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
         target_link_options(${target} PRIVATE -Wl,--no-undefined)
