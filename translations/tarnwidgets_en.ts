@@ -41,15 +41,15 @@
     </message>
     <message>
         <source>红:</source>
-        <translation>Red:</translation>
+        <translation>R:</translation>
     </message>
     <message>
         <source>绿:</source>
-        <translation>Green:</translation>
+        <translation>G:</translation>
     </message>
     <message>
         <source>蓝:</source>
-        <translation>Blue:</translation>
+        <translation>B:</translation>
     </message>
     <message>
         <source>Alpha通道:</source>

@@ -5,12 +5,15 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QAbstractSpinBox>
 #include <QAction>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStyle>
+#include <QStyleOptionButton>
 #include <QTabBar>
 #include <QWidget>
 #include <algorithm>
@@ -22,6 +25,8 @@ namespace {
 constexpr const char *Properties[] = {"text",        "title",           "windowTitle",
                                       "toolTip",     "placeholderText", "accessibleName",
                                       "currentText", "suffix",          "plainText"};
+
+constexpr int FieldMargin = 2; // at either end of a line edit's text
 
 void addEntries(const QAbstractItemModel *model, QStringList *texts)
 {
@@ -58,11 +63,29 @@ void addTextsOf(const QWidget *widget, QStringList *texts)
         addEntries(box->model(), texts);
 }
 
+/* Behind the buttons of a spin box, whose text never scrolls as long as it is not edited. */
+bool isInSpinBox(const QWidget *widget)
+{
+    return qobject_cast<const QLineEdit *>(widget)
+        && qobject_cast<const QAbstractSpinBox *>(widget->parentWidget());
+}
+
+/* Within what the style sheet keeps free. */
+int roomIn(const QPushButton *button)
+{
+    QStyleOptionButton option;
+    option.initFrom(button);
+    option.text = button->text();
+    return button->style()->subElementRect(QStyle::SE_PushButtonContents, &option, button).width();
+}
+
 int roomFor(const QWidget *widget)
 {
     if (const auto *label = qobject_cast<const QLabel *>(widget))
         return label->wordWrap() ? QWIDGETSIZE_MAX : label->width();
-    return widget->width();
+    if (const auto *button = qobject_cast<const QPushButton *>(widget))
+        return roomIn(button);
+    return isInSpinBox(widget) ? widget->contentsRect().width() - 2 * FieldMargin : widget->width();
 }
 
 /* Of the text alone, where the rest of the hint is room that may go. */
@@ -70,6 +93,8 @@ int widthOf(const QWidget *widget)
 {
     if (widget->property("text").toString().isEmpty() || widget->inherits("Tarn::Widgets::TarnPushButton"))
         return 0; // that one turns its text, and cuts it by itself
+    if (isInSpinBox(widget))
+        return widget->fontMetrics().horizontalAdvance(widget->property("text").toString());
     if (const auto *button = qobject_cast<const QPushButton *>(widget))
         return button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width();
     if (qobject_cast<const QLabel *>(widget) || qobject_cast<const QAbstractButton *>(widget))
