@@ -27,6 +27,7 @@
 #include <memory>
 #include <optional>
 #include <page.h>
+#include <pictureview.h>
 #include <sampledialog.h>
 #include <tarnwidgets/titlebar.h>
 
@@ -118,6 +119,24 @@ QStringList textsOf(const QWidget *widget)
     return texts;
 }
 
+constexpr const char *PagesWithPicture[] = {"dialogs", "message-boxes", "colour-dialog"};
+
+/* In one size, as the view's own follows from the other texts. */
+QImage pictureOn(const QWidget *page)
+{
+    auto *view = page->findChild<PictureView *>();
+    view->resize(SmallDevice / 2);
+    return view->grab().toImage();
+}
+
+QVector<QImage> picturesOn(const Stage &stage)
+{
+    QVector<QImage> pictures;
+    for (const char *id : PagesWithPicture)
+        pictures.append(pictureOn(stage.page(QLatin1String(id))));
+    return pictures;
+}
+
 } // namespace
 
 class tst_GalleryLanguages : public QObject
@@ -147,6 +166,7 @@ private Q_SLOTS:
     void changedTextsAreThoseOfAFreshStart_data();
     void changedTextsAreThoseOfAFreshStart();
     void changingKeepsWhatTheUserDid();
+    void picturesOfDialogsFollow();
     void openDialogsFollow();
     void chooserChangesTheLanguage();
     void languageOutsideTheListIsShownThere();
@@ -230,6 +250,32 @@ void tst_GalleryLanguages::changingKeepsWhatTheUserDid()
     QVERIFY(!titleBar->findChild<QCheckBox *>()->isChecked());
     QCOMPARE(titleBar->findChild<QListWidget *>()->count(), 1);
     QCOMPARE(rules->findChild<QPlainTextEdit *>()->toPlainText(), QStringLiteral("QLabel {}"));
+}
+
+void tst_GalleryLanguages::picturesOfDialogsFollow()
+{
+    // GIVEN the pictures of a start in either language
+    QVector<QImage> expected;
+    {
+        const Stage fresh(Chinese);
+        expected = picturesOn(fresh);
+    }
+    Stage stage(English);
+    const QVector<QImage> before = picturesOn(stage);
+    for (int i = 0; i < before.count(); ++i)
+        QVERIFY2(before.at(i) != expected.at(i), PagesWithPicture[i]);
+
+    // WHEN the language changes, each page on show in turn
+    QVector<QImage> pictures;
+    for (const char *id : PagesWithPicture) {
+        stage.change(English);
+        const QWidget *page = stage.page(QLatin1String(id));
+        stage.change(Chinese);
+        pictures.append(pictureOn(page));
+    }
+
+    // THEN its picture is the one of a start in that language
+    QCOMPARE(pictures, expected);
 }
 
 void tst_GalleryLanguages::openDialogsFollow()
