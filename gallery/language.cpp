@@ -40,7 +40,7 @@ QStringList Language::names()
 QString Language::title(const QString &name)
 {
     if (name.isEmpty())
-        return tr("System language");
+        return tr("System");
     for (const Choice &choice : Choices) {
         if (name == QLatin1String(choice.name))
             return QString::fromUtf8(choice.title);

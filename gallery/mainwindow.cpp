@@ -58,7 +58,7 @@ QWidget *MainWindow::createSidebar()
     m_list = new QListWidget(sidebar);
     m_list->setObjectName(QStringLiteral("galleryPages"));
     m_list->setResizeMode(QListView::Adjust); // the first layout comes before the style sheet's sizes
-    for (const Page &page : m_pages)
+    for (const Page &page : qAsConst(m_pages))
         m_list->addItem(page.title);
 
     auto *layout = new QVBoxLayout(sidebar);

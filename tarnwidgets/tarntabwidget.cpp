@@ -134,6 +134,7 @@ void TarnTabWidget::addPage(QWidget *page)
     d->m_pStack->addWidget(page);
     // The bar inside: the frame around it would make the new tab the current one.
     d->m_pTabBar->getTabBar()->addTab(page->windowTitle());
+    disconnect(page, &QWidget::windowTitleChanged, this, nullptr); // a page may have been here before
     connect(page, &QWidget::windowTitleChanged, this,
             [this, page](const QString &title) { d->m_pTabBar->setTabText(indexOf(page), title); });
 }

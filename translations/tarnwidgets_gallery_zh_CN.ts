@@ -609,8 +609,8 @@
 <context>
     <name>Gallery::Language</name>
     <message>
-        <source>System language</source>
-        <translation>系统语言</translation>
+        <source>System</source>
+        <translation>系统</translation>
     </message>
 </context>
 <context>

@@ -99,7 +99,7 @@
     </message>
     <message>
         <source>Yes to &amp;All</source>
-        <translation>全是(&amp;A)</translation>
+        <translation>全部是(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;No</source>
@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>N&amp;o to All</source>
-        <translation>全否(&amp;O)</translation>
+        <translation>全部否(&amp;O)</translation>
     </message>
     <message>
         <source>Abort</source>
