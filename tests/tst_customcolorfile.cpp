@@ -477,13 +477,6 @@ void tst_CustomColorFile::anyTextKeepsItsRest_data()
 {
     QTest::addColumn<QByteArray>("text");
 
-    // Where the fuzz target begins, and what it has found.
-    const QDir seeds(QStringLiteral(TARN_SEEDS));
-    const QStringList names = seeds.entryList(QDir::Files);
-    QVERIFY(!names.isEmpty());
-    for (const QString &name : names)
-        QTest::newRow(qPrintable(name)) << contents(seeds.filePath(name));
-
     // The generator's sequence is part of the C++ standard, so the texts are the same everywhere.
     std::minstd_rand random(1);
     const QByteArray alphabet("\\,\"=;[]@%x0 \n\r\0customColor[General]1234567890", 45);
