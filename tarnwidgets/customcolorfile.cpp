@@ -10,7 +10,6 @@
 #include <QSaveFile>
 #include <QVariant>
 #include <algorithm>
-#include <cctype>
 #include <cstring>
 
 namespace Tarn::Widgets {
@@ -106,10 +105,10 @@ QString keyIn(const QByteArray &text)
         const int digits = isWide ? 4 : 2;
         const int begin = pos + (isWide ? 2 : 1);
         const QByteArray number = text.mid(begin, digits);
-        const bool isEscape = text.at(pos) == '%' && number.size() == digits
-            && std::all_of(number.cbegin(), number.cend(),
-                           [](char digit) { return std::isxdigit(uchar(digit)); });
-        key += isEscape ? QChar(number.toUShort(nullptr, 16)) : QChar(QLatin1Char(text.at(pos)));
+        bool isNumber = false; // signs and blanks may be among its digits
+        const ushort code = number.toUShort(&isNumber, 16);
+        const bool isEscape = text.at(pos) == '%' && number.size() == digits && isNumber;
+        key += isEscape ? QChar(code) : QChar(QLatin1Char(text.at(pos)));
         pos = isEscape ? begin + digits : pos + 1;
     }
     return key;

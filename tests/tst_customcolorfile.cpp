@@ -344,6 +344,7 @@ void tst_CustomColorFile::fileIsReadAsSettingsAreRead_data()
     row("list over two lines", general + "customColor=1, \\\n2\n", beginning({1, 2}));
     row("escaped key", general + "%63ustomColor=1, 2\n", beginning({1, 2}));
     row("widely escaped key", general + "%U0063ustomColor=1, 2\n", beginning({1, 2}));
+    row("escaped with a blank", general + "%U 063ustomColor=1, 2\n", beginning({1, 2}));
     row("no wide escape", general + "%u0063ustomColor=1, 2\n", untouched);
     row("half an escape", general + "%6ustomColor=1, 2\n", untouched);
     row("escaped numbers", general + "customColor=\\x31\\x46, \\062, \\x32\n", beginning({0, 2, 2}));
