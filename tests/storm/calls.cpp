@@ -1,0 +1,644 @@
+// SPDX-FileCopyrightText: 2026 the tarnwidgets developers
+// SPDX-License-Identifier: MIT
+
+// What programs call: the table of our own functions, and the properties and slots that Qt knows of.
+
+#include "acts.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QFrame>
+#include <QHash>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMetaMethod>
+#include <QMetaProperty>
+#include <QPushButton>
+#include <QToolButton>
+#include <functional>
+#include <tarnwidgets/colordialog.h>
+#include <tarnwidgets/framelessdialog.h>
+#include <tarnwidgets/framelessfiledialog.h>
+#include <tarnwidgets/framelesshelper.h>
+#include <tarnwidgets/framelessmessagebox.h>
+#include <tarnwidgets/framelesswindow.h>
+#include <tarnwidgets/frameline.h>
+#include <tarnwidgets/iplineedit.h>
+#include <tarnwidgets/limitedfiledialog.h>
+#include <tarnwidgets/stylesheetwidget.h>
+#include <tarnwidgets/tarnpushbutton.h>
+#include <tarnwidgets/tarntabbar.h>
+#include <tarnwidgets/tarntabwidget.h>
+#include <tarnwidgets/titlebar.h>
+#include <tarnwidgets/toolbutton.h>
+#include <tuple>
+
+using namespace Tarn::Widgets;
+
+namespace Tarn::Storm {
+
+namespace {
+
+struct Call
+{
+    const QMetaObject *owner;
+    const char *name;
+    std::function<void(QObject *object, Source source)> run;
+};
+
+template <typename Class, typename Function, typename... Arguments>
+Call makeCall(const char *name, Function function, std::tuple<Arguments...> *)
+{
+    return {&Class::staticMetaObject, name, [function](QObject *object, [[maybe_unused]] Source source) {
+                // Braces, so that arguments are drawn in one order everywhere.
+                std::tuple<std::decay_t<Arguments>...> drawn{draw<Arguments>(source)...};
+                std::apply(
+                    [&](auto &...arguments) { (static_cast<Class *>(object)->*function)(arguments...); },
+                    drawn);
+            }};
+}
+
+template <typename Class, typename Base, typename Result, typename... Arguments>
+Call call(const char *name, Result (Base::*function)(Arguments...))
+{
+    return makeCall<Class>(name, function, static_cast<std::tuple<Arguments...> *>(nullptr));
+}
+
+template <typename Class, typename Base, typename Result, typename... Arguments>
+Call call(const char *name, Result (Base::*function)(Arguments...) const)
+{
+    return makeCall<Class>(name, function, static_cast<std::tuple<Arguments...> *>(nullptr));
+}
+
+// A call that needs more than drawn arguments.
+template <typename Class, typename Function> Call special(const char *name, Function function)
+{
+    return {&Class::staticMetaObject, name,
+            [function](QObject *object, Source source) { function(static_cast<Class *>(object), source); }};
+}
+
+#define CALL(Class, function) call<Class>(#Class "::" #function, &Class::function)
+#define CALL_OVERLOAD(Class, function, ...)                                                                  \
+    call<Class>(#Class "::" #function, qOverload<__VA_ARGS__>(&Class::function))
+
+QVector<Call> titleBarCalls()
+{
+    return {CALL(TitleBar, setTitle),
+            CALL(TitleBar, setTitleAlignment),
+            CALL(TitleBar, setTitleVisible),
+            CALL(TitleBar, titleButton),
+            CALL(TitleBar, setTitleButtonVisible),
+            CALL(TitleBar, isTitleButtonVisible),
+            CALL(TitleBar, setTitleButtonIcon),
+            CALL(TitleBar, titleButtonIcon),
+            CALL(TitleBar, setTitleButtonToolTip),
+            CALL(TitleBar, titleButtonToolTip),
+            CALL(TitleBar, appendExtendTitleButton),
+            CALL(TitleBar, insertExtendTitleButton),
+            CALL(TitleBar, setMaximized),
+            CALL(TitleBar, hitTest),
+            CALL(TitleBar, retranslateUi),
+            CALL(TitleBar, switchMaxMin),
+            CALL(TitleBar, clearChecked),
+            special<TitleBar>("TitleBar::appendCloseEvent", [](TitleBar *bar, Source source) {
+                const int kind = source.dice.below(3);
+                if (kind == 0)
+                    bar->appendCloseEvent({});
+                else
+                    bar->appendCloseEvent([kind] { return kind == 1; });
+            })};
+}
+
+QVector<Call> dialogCalls()
+{
+    return {
+        CALL(FramelessDialog, getContentHolder),
+        CALL(FramelessDialog, noCentralHeight),
+        CALL(FramelessDialog, setWindowTitle),
+        CALL(FramelessDialog, setWindowTitleAlignment),
+        CALL(FramelessDialog, setWindowIcon),
+        CALL(FramelessDialog, setTitleButtonIcon),
+        CALL(FramelessDialog, appendExtendTitleButton),
+        CALL(FramelessDialog, insertExtendTitleButton),
+        CALL(FramelessDialog, setMinButtonVisible),
+        CALL(FramelessDialog, setMaxButtonVisible),
+        CALL(FramelessDialog, setCloseButtonVisible),
+        CALL(FramelessDialog, getCloseButtonVisible),
+        CALL(FramelessDialog, setOKButtonVisible),
+        CALL(FramelessDialog, setCancelButtonVisible),
+        CALL(FramelessDialog, setApplyButtonVisible),
+        CALL(FramelessDialog, setOKButtonDefault),
+        CALL(FramelessDialog, setBottomBarVisible),
+        special<FramelessDialog>("FramelessDialog::setHorizontalLineHeight",
+                                 [](FramelessDialog *dialog, Source source) {
+                                     dialog->setHorizontalLineHeight(source.dice.between(0, 40));
+                                 }),
+        CALL(FramelessDialog, setDialogMovable),
+        CALL(FramelessDialog, setDialogtMovable),
+        CALL(FramelessDialog, setDialogResizable),
+        CALL(FramelessDialog, setRubberBandOnMove),
+        CALL(FramelessDialog, setRubberBandOnResize),
+        CALL(FramelessDialog, reTranslateUI),
+        CALL(FramelessDialog, swithMaxNormal),
+        CALL(FramelessDialog, show),
+        CALL(FramelessDialog, showMinimized),
+        CALL(FramelessDialog, showMaximized),
+        CALL(FramelessDialog, showFullScreen),
+        CALL(FramelessDialog, showNormal),
+        special<FramelessDialog>("FramelessDialog::setLayout", [](FramelessDialog *dialog, Source source) {
+            // What is derived from it has its own layout there.
+            if (dialog->metaObject() != &FramelessDialog::staticMetaObject || source.dice.oneIn(3)) {
+                dialog->setLayout(nullptr);
+                return;
+            }
+            if (source.dice.oneIn(2))
+                delete dialog->layout();
+            // A place that is taken is not given away, Qt says so in its log.
+            if (dialog->layout())
+                return;
+            auto *layout = new QFormLayout;
+            layout->addRow(drawText(source.dice), new QLineEdit);
+            dialog->setLayout(layout);
+        })};
+}
+
+QVector<Call> windowCalls()
+{
+    return {CALL_OVERLOAD(FramelessWindow, setCentralWidget, QWidget *),
+            CALL_OVERLOAD(FramelessWindow, setCentralWidget, QWidget *, bool),
+            CALL(FramelessWindow, centralWidget),
+            CALL(FramelessWindow, setWindowTitle),
+            CALL(FramelessWindow, setWindowIcon),
+            CALL(FramelessWindow, setWindowIconText),
+            CALL(FramelessWindow, setCursorStyle),
+            CALL(FramelessWindow, swithMaxNormal)};
+}
+
+QVector<Call> helperCalls()
+{
+    return {special<FramelessHelper>("FramelessHelper::activateOn",
+                                     [](FramelessHelper *helper, Source source) {
+                                         const QVector<QWidget *> windows = source.stage.windows();
+                                         helper->activateOn(windows.isEmpty() ? nullptr
+                                                                              : source.dice.pickOf(windows));
+                                     }),
+            special<FramelessHelper>("FramelessHelper::removeFrom",
+                                     [](FramelessHelper *helper, Source source) {
+                                         const QVector<QWidget *> windows = source.stage.windows();
+                                         helper->removeFrom(windows.isEmpty() ? nullptr
+                                                                              : source.dice.pickOf(windows));
+                                     }),
+            CALL(FramelessHelper, setWidgetMovable),
+            CALL(FramelessHelper, setWidgetResizable),
+            CALL(FramelessHelper, setRubberBandOnMove),
+            CALL(FramelessHelper, setRubberBandOnResize),
+            CALL(FramelessHelper, setBorderWidth),
+            CALL(FramelessHelper, setTitleHeight)};
+}
+
+QVector<Call> buttonAndLineCalls()
+{
+    return {
+        CALL(TarnPushButton, isOpenRotation),
+        CALL(TarnPushButton, setRotationDirection),
+        CALL(TarnPushButton, setBtnText),
+        CALL(TarnPushButton, getBtnText),
+        CALL(TarnPushButton, setText),
+        CALL(ToolButton, recover),
+        special<ToolButton>("ToolButton::setMenu",
+                            [](ToolButton *button, Source source) {
+                                if (source.dice.oneIn(3)) {
+                                    button->setMenu(nullptr);
+                                    return;
+                                }
+                                auto *menu = new QMenu(source.stage.nursery());
+                                for (int left = source.dice.below(5); left > 0; --left)
+                                    menu->addAction(drawText(source.dice));
+                                source.stage.own(menu);
+                                button->setMenu(menu);
+                            }),
+        special<ToolButton>("ToolButton::setPopupMode",
+                            [](ToolButton *button, Source source) {
+                                button->setPopupMode(
+                                    source.dice.pick({QToolButton::DelayedPopup, QToolButton::MenuButtonPopup,
+                                                      QToolButton::InstantPopup}));
+                            }),
+        special<IPLineEdit>("IPLineEdit::setText",
+                            [](IPLineEdit *edit, Source source) { edit->setText(drawAddress(source.dice)); }),
+        special<IPLineEdit>(
+            "IPLineEdit::isTextValid",
+            [](IPLineEdit *edit, Source source) { edit->isTextValid(drawAddress(source.dice)); }),
+        special<IPLineEdit>(
+            "IPLineEdit::setProperty",
+            [](IPLineEdit *edit, Source source) {
+                edit->setProperty(source.dice.pick({"marked", "readOnly", "enabled"}), source.dice.oneIn(2));
+            }),
+        CALL(IPLineEdit, setAcceptsAnyAddress),
+        CALL(IPLineEdit, isModified),
+        CALL(IPLineEdit, hasAcceptableInput),
+        CALL(IPLineEdit, clear),
+        CALL(IPLineEdit, setIPFocus),
+        CALL(IPLineEdit, slot_fixInput),
+        special<StyleSheetWidget>("FrameLine", [](StyleSheetWidget *panel, Source source) {
+            const auto width = uint(source.dice.below(20));
+            QFrame *line = source.dice.oneIn(2)
+                ? FrameLine::createHorizontalLine(drawText(source.dice).left(20), panel, width, 1, 1)
+                : FrameLine::createVerticalLine(drawText(source.dice).left(20), panel, width, 1, 1);
+            source.stage.own(line);
+        })};
+}
+
+QVector<Call> tabCalls()
+{
+    return {CALL(TabBarRd, setTabBarType),
+            special<TarnTabBar>("TarnTabBar::setWidgetFixedSize",
+                                [](TarnTabBar *bar, Source source) {
+                                    const QSize size = drawSize(source.dice);
+                                    bar->setWidgetFixedSize(size.width(), size.height());
+                                }),
+            CALL(TarnTabBar, setWidgetColor),
+            CALL(TarnTabBar, addLeftWidget),
+            CALL(TarnTabBar, addRightWidget),
+            CALL(TarnTabBar, addCenterWidget),
+            CALL(TarnTabBar, setRightLeftVCenter),
+            CALL(TarnTabBar, setTabBarType),
+            CALL(TarnTabBar, setExpanding),
+            CALL(TarnTabBar, setAutoHide),
+            CALL(TarnTabBar, setMovable),
+            CALL(TarnTabBar, setTabsClosable),
+            CALL(TarnTabBar, setUsesScrollButtons),
+            CALL(TarnTabBar, setElideMode),
+            CALL(TarnTabBar, setIconSize),
+            CALL(TarnTabBar, currentIndex),
+            CALL(TarnTabBar, setCurrentIndex),
+            CALL(TarnTabBar, isTabEnabled),
+            CALL(TarnTabBar, setTabEnabled),
+            CALL(TarnTabBar, tabText),
+            CALL(TarnTabBar, setTabText),
+            CALL(TarnTabBar, tabTextColor),
+            CALL(TarnTabBar, setTabTextColor),
+            CALL(TarnTabBar, tabIcon),
+            CALL(TarnTabBar, setTabIcon),
+            CALL(TarnTabBar, tabToolTip),
+            CALL(TarnTabBar, setTabToolTip),
+            CALL(TarnTabBar, tabData),
+            CALL(TarnTabBar, setTabData),
+            CALL(TarnTabBar, tabButton),
+            special<TarnTabBar>("TarnTabBar::setTabButton",
+                                [](TarnTabBar *bar, Source source) {
+                                    // Not the storm's to delete: QTabBar keeps a plain pointer and crashes.
+                                    const int place = source.dice.below(4);
+                                    bar->setTabButton(
+                                        place, draw<QTabBar::ButtonPosition>(source),
+                                        source.dice.oneIn(3) ? nullptr : new QWidget(source.stage.nursery()));
+                                }),
+            CALL(TarnTabBar, tabRect),
+            CALL(TarnTabBar, tabAt),
+            special<TarnTabWidget>("TarnTabWidget::setWidgetSize",
+                                   [](TarnTabWidget *tabs, Source source) {
+                                       const QSize size = drawSize(source.dice);
+                                       tabs->setWidgetSize(size.width(), size.height());
+                                   }),
+            CALL(TarnTabWidget, setStackedWidgetColor),
+            CALL(TarnTabWidget, setStackedWidgetBackground),
+            CALL(TarnTabWidget, setTabBarType),
+            CALL(TarnTabWidget, setAutoHide),
+            CALL(TarnTabWidget, setMovable),
+            CALL(TarnTabWidget, setTabsClosable),
+            CALL(TarnTabWidget, setUsesScrollButtons),
+            CALL(TarnTabWidget, setElideMode),
+            CALL(TarnTabWidget, setIconSize),
+            CALL(TarnTabWidget, widget),
+            CALL(TarnTabWidget, indexOf),
+            CALL(TarnTabWidget, setTabText),
+            CALL(TarnTabWidget, tabText),
+            CALL(TarnTabWidget, setTabEnabled),
+            CALL(TarnTabWidget, setTabIcon),
+            CALL(TarnTabWidget, tabToolTip),
+            CALL(TarnTabWidget, setTabToolTip),
+            CALL(TarnTabWidget, setTabData),
+            CALL(TarnTabWidget, setCurrentIndex),
+            CALL(TarnTabWidget, slot_currentShow),
+            CALL(TarnTabWidget, slot_tabCloseRequested),
+            CALL(TarnTabWidget, removeTab)};
+}
+
+// Tabs are for the tab widget to add and remove, where there is one.
+bool isBare(const TarnTabBar *bar)
+{
+    return !qobject_cast<TarnTabWidget *>(bar->parentWidget());
+}
+
+QVector<Call> tabSpecials()
+{
+    return {
+        special<TarnTabBar>("TarnTabBar::insertTab",
+                            [](TarnTabBar *bar, Source source) {
+                                const int place = drawNumber(source.dice);
+                                if (isBare(bar))
+                                    bar->insertTab(place, draw<QIcon>(source), drawText(source.dice));
+                            }),
+        special<TarnTabBar>("TarnTabBar::removeTab",
+                            [](TarnTabBar *bar, Source source) {
+                                if (isBare(bar))
+                                    bar->removeTab(drawNumber(source.dice));
+                            }),
+        special<TarnTabBar>("TarnTabBar::moveTab",
+                            [](TarnTabBar *bar, Source source) {
+                                const int from = drawNumber(source.dice);
+                                const int to = drawNumber(source.dice);
+                                if (isBare(bar))
+                                    bar->moveTab(from, to);
+                            }),
+        special<TarnTabBar>(
+            "TarnTabBar::setTabMinWidth",
+            [](TarnTabBar *bar, Source source) { bar->setTabMinWidth(source.dice.between(0, 500)); }),
+        special<TarnTabBar>(
+            "TarnTabBar::setTabMaxWidth",
+            [](TarnTabBar *bar, Source source) { bar->setTabMaxWidth(source.dice.between(-1, 500)); }),
+        special<TarnTabBar>("TarnTabBar::set...HLayoutSpace",
+                            [](TarnTabBar *bar, Source source) {
+                                const int space = source.dice.between(-1, 60);
+                                bar->setLeftHLayoutSpace(space);
+                                bar->setRightHLayoutSpace(space);
+                                bar->setCenterHLayoutSpace(space);
+                            }),
+        special<TabBarRd>("TabBarRd::setTabMinWidth",
+                          [](TabBarRd *bar, Source source) { bar->setTabMinWidth(source.dice.below(400)); }),
+        special<TabBarRd>("TabBarRd::setTabMaxWidth",
+                          [](TabBarRd *bar, Source source) { bar->setTabMaxWidth(source.dice.below(400)); }),
+        special<TarnTabWidget>("TarnTabWidget::setTabMaxWidth",
+                               [](TarnTabWidget *tabs, Source source) {
+                                   tabs->setTabMinWidth(source.dice.below(100));
+                                   tabs->setTabMaxWidth(source.dice.below(400));
+                               }),
+        special<TarnTabWidget>("TarnTabWidget::insertTab",
+                               [](TarnTabWidget *tabs, Source source) {
+                                   const int place = drawNumber(source.dice);
+                                   QWidget *page = drawWidget(source);
+                                   if (source.dice.oneIn(2))
+                                       tabs->insertTab(place, page, draw<QIcon>(source),
+                                                       drawText(source.dice));
+                                   else
+                                       tabs->addTab(page, drawText(source.dice));
+                               }),
+        special<TarnTabWidget>("TarnTabWidget::setCurrentWidget",
+                               [](TarnTabWidget *tabs, Source source) {
+                                   tabs->setCurrentWidget(source.dice.oneIn(4)
+                                                              ? drawWidget(source)
+                                                              : tabs->widget(source.dice.below(5)));
+                               }),
+        special<TarnTabWidget>("delete a page", [](TarnTabWidget *tabs, Source source) {
+            QWidget *page = tabs->widget(source.dice.below(5));
+            if (source.dice.oneIn(2))
+                delete page;
+            else if (page)
+                page->setParent(source.stage.nursery());
+        })};
+}
+
+QAbstractButton *anyButton(FramelessMessageBox *box, Source source)
+{
+    const QList<QAbstractButton *> buttons = box->buttons();
+    if (buttons.isEmpty() || source.dice.oneIn(8))
+        return nullptr;
+    return buttons.at(source.dice.below(buttons.size()));
+}
+
+QVector<Call> messageBoxCalls()
+{
+    return {CALL(FramelessMessageBox, setText),
+            CALL(FramelessMessageBox, setIcon),
+            CALL(FramelessMessageBox, setIconPixmap),
+            CALL(FramelessMessageBox, setTextFormat),
+            CALL(FramelessMessageBox, setTextInteractionFlags),
+            CALL(FramelessMessageBox, setInformativeText),
+            CALL(FramelessMessageBox, setDetailedText),
+            CALL(FramelessMessageBox, setWindowTitle),
+            CALL(FramelessMessageBox, setWindowModality),
+            CALL(FramelessMessageBox, setStandardButtons),
+            CALL(FramelessMessageBox, button),
+            CALL(FramelessMessageBox, retranslateButtonUi),
+            CALL_OVERLOAD(FramelessMessageBox, addButton, QMessageBox::StandardButton),
+            CALL_OVERLOAD(FramelessMessageBox, setDefaultButton, QMessageBox::StandardButton),
+            CALL_OVERLOAD(FramelessMessageBox, setEscapeButton, QMessageBox::StandardButton),
+            special<FramelessMessageBox>("FramelessMessageBox::addButton",
+                                         [](FramelessMessageBox *box, Source source) {
+                                             const auto role = draw<QMessageBox::ButtonRole>(source);
+                                             if (source.dice.oneIn(4))
+                                                 box->addButton(nullptr, role);
+                                             else if (source.dice.oneIn(3))
+                                                 box->addButton(anyButton(box, source), role);
+                                             else
+                                                 box->addButton(drawText(source.dice).left(40), role);
+                                         }),
+            special<FramelessMessageBox>("FramelessMessageBox::removeButton",
+                                         [](FramelessMessageBox *box, Source source) {
+                                             QAbstractButton *button = anyButton(box, source);
+                                             box->removeButton(button);
+                                             if (button)
+                                                 button->deleteLater();
+                                         }),
+            special<FramelessMessageBox>("FramelessMessageBox::setDefaultButton",
+                                         [](FramelessMessageBox *box, Source source) {
+                                             box->setDefaultButton(
+                                                 qobject_cast<QPushButton *>(anyButton(box, source)));
+                                             box->setEscapeButton(anyButton(box, source));
+                                         }),
+            special<FramelessMessageBox>(
+                "FramelessMessageBox::setCheckBox", [](FramelessMessageBox *box, Source source) {
+                    box->setCheckBox(source.dice.oneIn(3) ? nullptr
+                                                          : new QCheckBox(drawText(source.dice).left(40)));
+                })};
+}
+
+QString drawPath(Source source)
+{
+    const QString name = source.dice.pick({QStringLiteral("@/root"), QStringLiteral("@/root/sub"),
+                                           QStringLiteral("@/root/sub/deep"), QStringLiteral("@/second"),
+                                           QStringLiteral("@/outside"), QStringLiteral("@/rootx"),
+                                           QStringLiteral("@/root/file.txt"), QStringLiteral("@/root/.."),
+                                           QStringLiteral("@/nothing"), QString()});
+    return source.stage.files().at(name);
+}
+
+template <typename Dialog> QVector<Call> fileDialogCalls()
+{
+    return {CALL(Dialog, setViewMode),
+            CALL(Dialog, setFileMode),
+            CALL(Dialog, setAcceptMode),
+            CALL(Dialog, setDefaultSuffix),
+            special<Dialog>("setDirectory",
+                            [](Dialog *dialog, Source source) { dialog->setDirectory(drawPath(source)); }),
+            special<Dialog>("selectFile",
+                            [](Dialog *dialog, Source source) { dialog->selectFile(drawPath(source)); }),
+            special<Dialog>(
+                "setNameFilters",
+                [](Dialog *dialog, Source source) {
+                    dialog->setNameFilters({QStringLiteral("Text (*.txt)"), drawText(source.dice).left(20)});
+                }),
+            special<Dialog>("setHistory",
+                            [](Dialog *dialog, Source source) {
+                                dialog->setHistory({drawPath(source), drawPath(source)});
+                            }),
+            special<Dialog>("selectedFiles", [](Dialog *dialog, Source) {
+                dialog->selectedFiles();
+                dialog->selectedUrls();
+            })};
+}
+
+QVector<Call> limitedFileDialogCalls()
+{
+    return {special<LimitedFileDialog>(
+                "LimitedFileDialog::setLimitedPath",
+                [](LimitedFileDialog *dialog, Source source) { dialog->setLimitedPath(drawPath(source)); }),
+            special<LimitedFileDialog>(
+                "LimitedFileDialog::setLimitedPath1",
+                [](LimitedFileDialog *dialog, Source source) { dialog->setLimitedPath1(drawPath(source)); }),
+            special<LimitedFileDialog>("LimitedFileDialog::pathFits",
+                                       [](LimitedFileDialog *dialog, Source source) {
+                                           dialog->pathFits(drawPath(source));
+                                           dialog->isShowInComboBox(drawPath(source));
+                                       }),
+            CALL(LimitedFileDialog, setStrict),
+            CALL(LimitedFileDialog, checkGoToParent),
+            CALL(LimitedFileDialog, checkLineEdit),
+            CALL(LimitedFileDialog, checkComboBox),
+            CALL(LimitedFileDialog, setHistoryPath),
+            CALL(LimitedFileDialog, checkHistory),
+            CALL(LimitedFileDialog, initFileDialog),
+            CALL(ColorDialog, setInitColor)};
+}
+
+QVector<Call> allCalls()
+{
+    return titleBarCalls() + dialogCalls() + windowCalls() + helperCalls() + buttonAndLineCalls() + tabCalls()
+        + tabSpecials() + messageBoxCalls() + fileDialogCalls<LimitedFileDialog>()
+        + fileDialogCalls<FramelessFileDialog>() + limitedFileDialogCalls();
+}
+
+const QVector<Call> &table()
+{
+    static const QVector<Call> calls = allCalls();
+    return calls;
+}
+
+const QVector<int> &callsOf(const QObject *object)
+{
+    static QHash<const QMetaObject *, QVector<int>> known;
+    const QMetaObject *meta = object->metaObject();
+    const auto found = known.constFind(meta);
+    if (found != known.constEnd())
+        return *found;
+    QVector<int> calls;
+    for (int i = 0; i < table().size(); ++i) {
+        if (meta->inherits(table().at(i).owner))
+            calls.append(i);
+    }
+    return *known.insert(meta, calls);
+}
+
+bool isLeftAlone(const QObject *object, const char *name)
+{
+    // Ends the object, blocks, or makes a window of another kind of it, each of which another step does.
+    static const QByteArray anywhere[] = {"deleteLater", "exec", "open", "modal", "windowModality"};
+    // These would let the user change files; see Stage::eventFilter().
+    static const QByteArray inFileDialogs[] = {"options", "readOnly"};
+    // The gallery's content is its own, and so is what becomes of it.
+    if (QByteArray(name).endsWith("::setCentralWidget") && object->inherits("Gallery::MainWindow"))
+        return true;
+    for (const QByteArray &candidate : anywhere) {
+        if (candidate == name)
+            return true;
+    }
+    for (const QByteArray &candidate : inFileDialogs) {
+        if (candidate == name && object->inherits("QFileDialog"))
+            return true;
+    }
+    return false;
+}
+
+void callOurs(Context &c)
+{
+    QObject *object = pickSubject(c);
+    if (!object)
+        return;
+    const QVector<int> &candidates = callsOf(object);
+    if (candidates.isEmpty())
+        return;
+    const Call &chosen = table().at(c.dice.pickOf(candidates));
+    c.notes.about(object, QString::fromLatin1(chosen.name));
+    if (!isLeftAlone(object, chosen.name))
+        chosen.run(object, c.source());
+}
+
+void writeProperty(Context &c)
+{
+    QObject *object = pickSubject(c);
+    if (!object)
+        return;
+    const QMetaObject *meta = object->metaObject();
+    const QMetaProperty property = meta->property(c.dice.below(meta->propertyCount()));
+    if (!property.isWritable() || isLeftAlone(object, property.name()))
+        return;
+    QVariant value;
+    if (property.isEnumType()) {
+        const QMetaEnum choices = property.enumerator();
+        value = choices.value(c.dice.below(choices.keyCount()));
+    } else {
+        value = drawVariant(property.userType(), c.source());
+    }
+    if (!value.isValid())
+        return;
+    // Nothing can paint a window that is millions of pixels wide.
+    const QByteArray name = property.name();
+    if (value.userType() == QMetaType::Int && (name.contains("Width") || name.contains("Height")))
+        value = drawSize(c.dice).width();
+    if (c.notes.wanted)
+        c.notes.about(
+            object, QStringLiteral("%1 = %2").arg(QLatin1String(property.name()), value.toString().left(60)));
+    property.write(object, value);
+}
+
+void invokeSlot(Context &c)
+{
+    QObject *object = pickSubject(c);
+    if (!object)
+        return;
+    const QMetaObject *meta = object->metaObject();
+    const QMetaMethod method = meta->method(c.dice.below(meta->methodCount()));
+    if (method.methodType() != QMetaMethod::Slot || method.access() != QMetaMethod::Public
+        || isLeftAlone(object, method.name().constData()))
+        return;
+    QVariant values[3];
+    QGenericArgument arguments[3];
+    if (method.parameterCount() > 3)
+        return;
+    for (int i = 0; i < method.parameterCount(); ++i) {
+        values[i] = drawVariant(method.parameterType(i), c.source());
+        if (!values[i].isValid() || values[i].userType() != method.parameterType(i))
+            return;
+        arguments[i] = QGenericArgument(values[i].typeName(), values[i].constData());
+    }
+    if (c.notes.wanted)
+        c.notes.about(object, QString::fromLatin1(method.methodSignature()));
+    method.invoke(object, Qt::DirectConnection, arguments[0], arguments[1], arguments[2]);
+}
+
+} // namespace
+
+bool hasCalls(const QObject *object)
+{
+    return !callsOf(object).isEmpty();
+}
+
+QVector<Kind> callKinds()
+{
+    return {{"call", 120, callOurs, false},
+            {"property", 40, writeProperty, false},
+            {"slot", 40, invokeSlot, false}};
+}
+
+} // namespace Tarn::Storm
