@@ -43,7 +43,10 @@ Q_SIGNALS:
     /*!
      * Focus is about to leave, for whatever reason: a tab, a click elsewhere, a
      * popup, another window. Emitted before QLineEdit reacts, so a slot still
-     * finds the selection that the user left behind. A slot may delete the field.
+     * finds the selection that the user left behind. A slot may delete the field,
+     * best with deleteLater(): Qt does not stand a delete at once when the focus
+     * leaves for the field's own context menu, or by setEnabled() or hide() called
+     * on the field.
      */
     void signal_focusOut();
 
