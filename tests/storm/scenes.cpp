@@ -68,7 +68,7 @@ template <typename Widget> void buildForm(Stage &stage, Dice &)
 bool isInUse(const QWidget *field)
 {
     return QApplication::activePopupWidget() || !field->isEnabled() || field->isHidden()
-        || field->findChild<QDialog *>();
+        || field->findChild<QDialog *>() || field->findChild<QMenu *>();
 }
 
 void buildNotice(Stage &stage, Dice &dice)
