@@ -46,7 +46,11 @@ InputPage::InputPage(QWidget *parent)
     keepTranslated(m_valid, [this] { refresh(); });
 }
 
-InputPage::~InputPage() = default;
+// The field with the focus tells that it loses it: to the page, while that is whole.
+InputPage::~InputPage()
+{
+    hide();
+}
 
 Page InputPage::page()
 {

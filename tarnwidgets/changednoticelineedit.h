@@ -30,6 +30,10 @@ class ChangedNoticeLineEditPrivate;
  *
  * \note The notice says that focus went away, not that the text changed: ask
  * QLineEdit::isModified() when only real edits count.
+ *
+ * \note A form that is deleted while it is shown takes the focus away in
+ * QWidget's destructor, when what the derived class has is gone already. A form
+ * whose own slot hears the notice calls hide() in its destructor.
  */
 class TARNWIDGETS_EXPORT ChangedNoticeLineEdit : public QLineEdit
 {
