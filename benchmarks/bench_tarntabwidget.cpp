@@ -128,7 +128,7 @@ int main(int argc, char **argv)
              side<InsertShown<PlainTabs>>(100), nullptr, true, 2, 2},
             {"pages-before-10", "10 pages inserted, then shown", 1.00, side<InsertHidden<TarnTabWidget>>(10),
              side<InsertHidden<PlainTabs>>(10), nullptr, true, 10, 10},
-            {"pages-before-100", "100 pages inserted, then shown", 1.44,
+            {"pages-before-100", "100 pages inserted, then shown", 1.45,
              side<InsertHidden<TarnTabWidget>>(100), side<InsertHidden<PlainTabs>>(100), nullptr, true, 2, 2},
             {"pages-before-1000", "1000 pages inserted, then shown", 1.24,
              side<InsertHidden<TarnTabWidget>>(1000), side<InsertHidden<PlainTabs>>(1000), nullptr, true, 1,
