@@ -58,6 +58,19 @@ void giveStyleSheet(QWidget *widget, const QString &styleSheet)
         widget->setStyleSheet(styleSheet);
 }
 
+/*
+ * Has the layout ask for sizes again, as activating it does, but without placing anything: the sizes that the
+ * box is measured with are not those that it gets.
+ */
+void forgetSizes(QLayout *layout)
+{
+    for (int i = 0; i < layout->count(); ++i) {
+        if (QLayout *inner = layout->itemAt(i)->layout())
+            forgetSizes(inner);
+    }
+    layout->invalidate();
+}
+
 QRect availableGeometryUnderCursor()
 {
     const QScreen *screen = QGuiApplication::screenAt(QCursor::pos());
@@ -355,7 +368,7 @@ void FramelessMessageBoxPrivate::addCheckBox(QGridLayout *grid)
 
 int FramelessMessageBoxPrivate::layoutMinimumWidth() const
 {
-    box->layout()->activate();
+    forgetSizes(box->layout());
     return box->layout()->totalMinimumSize().width();
 }
 
@@ -379,9 +392,10 @@ void FramelessMessageBoxPrivate::updateSize()
 
     // Kept: the buttons have no say in the width, so that those that do not fit get narrower.
     const int width = qMax(widthForTexts(hardLimit, softLimit), qMin(widthForTitle(), hardLimit));
-    box->layout()->activate();
+    forgetSizes(box->layout());
     const int height = heightForWidth(width) + 10 + box->noCentralHeight();
     box->setFixedSize(QSize(width, height).expandedTo(SmallestBox));
+    box->layout()->activate(); // the size may be the former, and what is in it not
     QCoreApplication::removePostedEvents(box, QEvent::LayoutRequest);
 }
 
@@ -518,7 +532,10 @@ void FramelessMessageBoxPrivate::toggleDetails()
 {
     const bool show = detailsText->isHidden();
     detailsButton->setText(DetailButton::label(!show));
+    // Else Qt squeezes the details into the former height before the box gets its new one.
+    box->getMainLayout()->setEnabled(false);
     detailsText->setHidden(!show);
+    box->getMainLayout()->setEnabled(true);
     updateSize();
 }
 

@@ -38,6 +38,23 @@ Place place(int row, int column, int rows, int columns)
     return {column, row, columns, rows};
 }
 
+class ResizeCount : public QObject
+{
+public:
+    explicit ResizeCount(QWidget *widget)
+    {
+        widget->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Resize ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
+
 class Box : public FramelessMessageBox
 {
 public:
@@ -246,6 +263,8 @@ private Q_SLOTS:
     void visibleBoxFollowsItsTexts();
     void partsAddedToAVisibleBoxCountOnceTheyAreShown();
     void togglingTheDetailsTwiceRestoresTheSize();
+    void togglingTheDetailsLeavesTheTextsAlone();
+    void textIsPlacedAtOnceInABoxThatKeepsItsSize();
     void sizingLeavesNoLayoutRequestBehind();
     void minimumSizeOfTheCallerIsOverwritten();
 
@@ -888,6 +907,54 @@ void tst_FramelessMessageBoxLayout::togglingTheDetailsTwiceRestoresTheSize()
     QCOMPARE(box.size(), closed);
     box.detailsButton()->click();
     QCOMPARE(box.size(), open);
+}
+
+// A selectable text is laid out anew each time its label gets another size, be it for a moment.
+void tst_FramelessMessageBoxLayout::togglingTheDetailsLeavesTheTextsAlone()
+{
+    // GIVEN an open box whose details were seen once
+    Box box(QMessageBox::Warning, QStringLiteral("t"), QStringLiteral("many words ").repeated(9));
+    box.setInformativeText(QStringLiteral("more words ").repeated(9));
+    box.setDetailedText(QStringLiteral("details"));
+    show(box);
+    box.detailsButton()->click();
+    box.detailsButton()->click();
+    const int closedHeight = box.height();
+    const QRect closedText = box.informative()->geometry();
+    ResizeCount ofMain(box.main());
+    ResizeCount ofInformative(box.informative());
+    ResizeCount ofDetails(box.details());
+
+    // WHEN they are shown
+    box.detailsButton()->click();
+
+    // THEN they find their place at once, and the texts have kept their sizes all the time
+    QVERIFY(box.height() > closedHeight);
+    QVERIFY(box.details()->isVisible());
+    QVERIFY(box.details()->y() > box.informative()->geometry().bottom());
+    QCOMPARE(box.details()->height(), box.details()->sizeHint().height());
+    QCOMPARE(ofDetails.count, 0);
+    QCOMPARE(ofMain.count, 0);
+    QCOMPARE(ofInformative.count, 0);
+
+    // WHEN they are hidden THEN likewise
+    box.detailsButton()->click();
+    QCOMPARE(box.height(), closedHeight);
+    QCOMPARE(box.informative()->geometry(), closedText);
+    QCOMPARE(ofMain.count, 0);
+    QCOMPARE(ofInformative.count, 0);
+}
+
+void tst_FramelessMessageBoxLayout::textIsPlacedAtOnceInABoxThatKeepsItsSize()
+{
+    Box box(QMessageBox::NoIcon, QString(), QStringLiteral("one line"));
+    show(box);
+    const QSize size = box.size();
+    const int oneLine = box.main()->height();
+    box.setText(QStringLiteral("two\nlines"));
+    QCOMPARE(box.size(), size); // otherwise the new size would place it
+    QVERIFY(box.main()->height() > oneLine);
+    QCOMPARE(box.main()->height(), box.main()->heightForWidth(box.main()->width()));
 }
 
 void tst_FramelessMessageBoxLayout::sizingLeavesNoLayoutRequestBehind()
