@@ -163,13 +163,13 @@ int main(int argc, char **argv)
     return Tarn::Benchmark::run(
         argc, argv,
         {
-            {"message-life", "a message with OK: made, shown, painted, clicked, destroyed", 1.36,
+            {"message-life", "a message with OK: made, shown, painted, clicked, destroyed", 1.27,
              side<Life<FramelessMessageBox>>(), side<Life<QMessageBox>>(), nullptr, true, 20},
-            {"message-bare", "the same against its bare widgets and layouts", 0.95,
+            {"message-bare", "the same against its bare widgets and layouts", 0.89,
              side<Life<FramelessMessageBox>>(), side<BareLife>(), nullptr, true, 20},
-            {"message-full-life", "the same with icon, informative and detailed text", 0.43,
+            {"message-full-life", "the same with icon, informative and detailed text", 0.40,
              side<FullLife<FramelessMessageBox>>(), side<FullLife<QMessageBox>>(), nullptr, true, 10},
-            {"message-details", "details opened and closed", 0.36, side<Details<FramelessMessageBox>>(),
+            {"message-details", "details opened and closed", 0.25, side<Details<FramelessMessageBox>>(),
              side<Details<QMessageBox>>(), nullptr, true, 10},
         });
 }

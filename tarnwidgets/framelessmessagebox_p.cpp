@@ -100,28 +100,37 @@ bool MessageLabel::isMeasuredHere() const
         && minimumSize().isNull();
 }
 
+bool MessageLabel::isWrapped() const
+{
+    return wordWrap() && !m_measuredUnwrapped;
+}
+
+void MessageLabel::setMeasuredUnwrapped(bool unwrapped)
+{
+    if (isMeasuredHere()) {
+        m_measuredUnwrapped = unwrapped;
+        updateGeometry();
+    } else {
+        setWordWrap(!unwrapped);
+    }
+}
+
 void MessageLabel::followText() const
 {
+    ensurePolished();
     if (m_measuredText == text() && m_measuredFont == font())
         return;
     m_measuredText = text();
     m_measuredFont = font();
-    m_sizes[0] = m_sizes[1] = Sizes();
+    m_wrapped = Sizes();
     m_heights.clear();
     m_document.setUndoRedoEnabled(false);
     m_document.setDocumentMargin(0);
     m_document.setDefaultFont(m_measuredFont);
+    m_document.setDefaultTextOption(QTextOption()); // wraps between words
+    m_document.setTextWidth(-1);
     m_document.setPlainText(m_measuredText);
-}
-
-void MessageLabel::followWordWrap() const
-{
-    const QTextOption::WrapMode mode = wordWrap() ? QTextOption::WordWrap : QTextOption::ManualWrap;
-    QTextOption option = m_document.defaultTextOption();
-    if (option.wrapMode() == mode)
-        return;
-    option.setWrapMode(mode);
-    m_document.setDefaultTextOption(option);
+    m_unwrapped.hint = m_unwrapped.minimum = roundedUp(m_document.size());
 }
 
 QSize MessageLabel::measure(qreal width) const
@@ -132,21 +141,16 @@ QSize MessageLabel::measure(qreal width) const
 
 const MessageLabel::Sizes &MessageLabel::sizes() const
 {
-    ensurePolished();
     followText();
-    Sizes &sizes = m_sizes[wordWrap()];
-    if (sizes.hint.isValid())
-        return sizes;
-    followWordWrap();
-    if (wordWrap()) {
+    if (!isWrapped())
+        return m_unwrapped;
+    if (!m_wrapped.hint.isValid()) {
         m_document.adjustSize();
-        sizes.hint = roundedUp(m_document.size());
-        const QSize unwrapped = m_sizes[0].hint.isValid() ? m_sizes[0].hint : measure(QWIDGETSIZE_MAX);
-        sizes.minimum = QSize(measure(0).width(), qMin(sizes.hint.height(), unwrapped.height()));
-    } else {
-        sizes.hint = sizes.minimum = measure(-1);
+        m_wrapped.hint = roundedUp(m_document.size());
+        m_wrapped.minimum =
+            QSize(measure(0).width(), qMin(m_wrapped.hint.height(), m_unwrapped.hint.height()));
     }
-    return sizes;
+    return m_wrapped;
 }
 
 QSize MessageLabel::sizeHint() const
@@ -165,17 +169,15 @@ QSize MessageLabel::minimumSizeHint() const
 
 int MessageLabel::heightForWidth(int width) const
 {
-    if (!isMeasuredHere() || !wordWrap())
+    if (!isMeasuredHere() || !isWrapped())
         return QLabel::heightForWidth(width);
-    ensurePolished();
     followText();
     const QMargins margins = contentsMargins();
     const int textWidth = qMax(0, width - margins.left() - margins.right());
+    const bool fits = textWidth >= m_unwrapped.hint.width();
     int &height = m_heights[textWidth];
-    if (height == 0) {
-        followWordWrap();
-        height = measure(textWidth).height();
-    }
+    if (height == 0)
+        height = fits ? m_unwrapped.hint.height() : measure(textWidth).height();
     return height + margins.top() + margins.bottom();
 }
 
@@ -403,10 +405,12 @@ int FramelessMessageBoxPrivate::widthForTexts(int hardLimit, int softLimit)
 {
     if (informativeLabel)
         setPolicy(informativeLabel, QSizePolicy::Ignored, QSizePolicy::Ignored, false);
-    if (label->wordWrap())
-        label->setWordWrap(false);
+    // From here on the text is wrapped, even if it was set not to be.
+    if (!label->wordWrap())
+        label->setWordWrap(true);
+    label->setMeasuredUnwrapped(true);
     int width = layoutMinimumWidth();
-    label->setWordWrap(true);
+    label->setMeasuredUnwrapped(false);
     if (width > softLimit)
         width = qMin(qMax(softLimit, layoutMinimumWidth()), hardLimit);
     if (informativeLabel) {

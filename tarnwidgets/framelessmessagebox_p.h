@@ -35,6 +35,12 @@ public:
     QSize minimumSizeHint() const override;
     int heightForWidth(int width) const override;
 
+    /*!
+     * Has layouts ask for the sizes of the text unwrapped, or wrapped again. What is shown stays wrapped, and
+     * need not be laid out anew.
+     */
+    void setMeasuredUnwrapped(bool unwrapped);
+
 private:
     /*! The sizes of a text, without the contents margins. */
     struct Sizes
@@ -45,15 +51,17 @@ private:
 
     bool isIgnored() const; // layouts ask, and have no use for the answer
     bool isMeasuredHere() const;
+    bool isWrapped() const;
     void followText() const;
-    void followWordWrap() const;
-    const Sizes &sizes() const;
     QSize measure(qreal width) const;
+    const Sizes &sizes() const;
 
+    bool m_measuredUnwrapped = false;
     mutable QTextDocument m_document;
     mutable QString m_measuredText;
     mutable QFont m_measuredFont;
-    mutable Sizes m_sizes[2]; // not wrapped, wrapped
+    mutable Sizes m_unwrapped;
+    mutable Sizes m_wrapped;
     mutable QHash<int, int> m_heights; // by width, wrapped
 };
 
