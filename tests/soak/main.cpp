@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 the tarnwidgets developers
+// SPDX-License-Identifier: MIT
+
+// Does everything again and again, and tells how much more of the heap is in use then:
+//
+//     tarn_soak [--rounds N] [--lose] [NAME...]
+//
+// It fails if anything of ours keeps a block for each of so many rounds as Leaking says.
+
+#include "liveheap.h"
+#include "subjects.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTextStream>
+#include <cstdlib>
+
+using namespace Tarn::Soak;
+
+namespace {
+
+constexpr int DefaultRounds = 200;
+
+// What is filled once and kept is filled by then.
+constexpr int WarmingRounds = 40;
+
+// A block in four rounds is a leak. Qt's own tables that grow by doubling, and threads that are about to end,
+// take some blocks, though not with each round.
+constexpr long Leaking = 4;
+
+void run(const Subject &subject, int rounds)
+{
+    for (int i = 0; i < rounds; ++i) {
+        subject.round();
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+    }
+}
+
+/* Whether it keeps what it takes. */
+bool isSound(const Subject &subject, int rounds, QTextStream &out)
+{
+    run(subject, WarmingRounds);
+    const LiveHeap before = liveHeap();
+    run(subject, rounds);
+    const LiveHeap after = liveHeap();
+    const long blocks = after.blocks - before.blocks;
+    const long bytes = after.bytes - before.bytes;
+    const bool isLeaking = blocks * Leaking >= rounds;
+    out << QStringLiteral("%1 %2 %3 %4  %5\n")
+               .arg(subject.name, -36)
+               .arg(rounds, 8)
+               .arg(blocks, 8)
+               .arg(bytes, 10)
+               .arg(QLatin1String(isLeaking ? "GROWS" : "flat"))
+        << Qt::flush;
+    return !isLeaking || !subject.isOurs;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    // What the file dialog says of each choice
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    const QCommandLineOption roundsOption(QStringLiteral("rounds"), QStringLiteral("How often."),
+                                          QStringLiteral("N"), QString::number(DefaultRounds));
+    const QCommandLineOption loseOption(QStringLiteral("lose"), QStringLiteral("Lose a block each time."));
+    parser.addOptions({roundsOption, loseOption});
+    parser.process(application);
+
+    QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("file.txt")));
+    if (!file.open(QIODevice::WriteOnly))
+        return EXIT_FAILURE;
+    file.close();
+    const QStringList names = parser.positionalArguments();
+    const QVector<Subject> all =
+        parser.isSet(loseOption) ? QVector<Subject>{losing()} : subjects(folder.path());
+
+    QTextStream out(stdout);
+    out << QStringLiteral("%1 %2 %3 %4\n")
+               .arg(QStringLiteral("what"), -36)
+               .arg(QStringLiteral("rounds"), 8)
+               .arg(QStringLiteral("blocks"), 8)
+               .arg(QStringLiteral("bytes"), 10);
+    bool isFlat = true;
+    for (const Subject &subject : all) {
+        if (names.isEmpty() || names.contains(subject.name))
+            isFlat = isSound(subject, parser.value(roundsOption).toInt(), out) && isFlat;
+    }
+    return isFlat ? EXIT_SUCCESS : EXIT_FAILURE;
+}
