@@ -210,8 +210,10 @@ public:
     /*!
      * The one-call functions show a box and return the button that ended it,
      * also when \a parent is deleted meanwhile: they return then what closing
-     * the box returns, the escape button, or Cancel if there is none. If no
-     * \a defaultButton is named, the first button with the accept role is it.
+     * the box returns, the escape button, or Cancel if there is none. When the
+     * program is told to quit meanwhile, they return NoButton, as QMessageBox's
+     * do. If no \a defaultButton is named, the first button with the accept role
+     * is it.
      */
     static QMessageBox::StandardButton
     information(QWidget *parent, const QString &title, const QString &text,
