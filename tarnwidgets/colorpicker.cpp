@@ -94,7 +94,8 @@ QImage ColorPicker::fieldImage(const QSize &size)
         columns.append(columnOf(uint(360 - scaled(x, size.width(), 360)) % 360));
 
     QImage image(size, QImage::Format_RGB32);
-    for (int y = 0; y < size.height(); ++y) {
+    // Without rows if there was no memory for it
+    for (int y = 0; y < image.height(); ++y) {
         const uint sat = uint(LargestSat - scaled(y, size.height(), LargestSat));
         const uint falling = channel(sat, steepness(SectorDegrees));
         QRgb grounds[SectorCount];
@@ -244,7 +245,7 @@ void ColorLuminancePicker::updateGradient()
     if (m_gradient.size() != size)
         m_gradient = QImage(size, QImage::Format_RGB32);
     m_isGradientStale = false;
-    for (int y = 0; y < size.height(); ++y) {
+    for (int y = 0; y < m_gradient.height(); ++y) {
         const int val = LargestVal - scaled(y, size.height(), LargestVal);
         auto *line = reinterpret_cast<QRgb *>(m_gradient.scanLine(y));
         std::fill_n(line, size.width(), QColor::fromHsv(m_hue, m_sat, val).rgb());
