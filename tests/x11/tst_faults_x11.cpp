@@ -1,12 +1,23 @@
 // SPDX-FileCopyrightText: 2026 the tarnwidgets developers
 // SPDX-License-Identifier: MIT
 
-// The display vanishes while a program waits for an answer.
+// While a program waits for an answer: dialogs in dialogs, as the user sees them, and a display that
+// vanishes.
 
+#include "desktop.h"
+
+#include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QTemporaryDir>
 #include <QTest>
 #include <optional>
+#include <support/messagesentry.h>
+#include <support/modaldriver.h>
+#include <support/modalkinds.h>
+#include <tarnwidgets/framelesswindow.h>
+
+using namespace Tarn::Test;
 
 namespace {
 
@@ -81,9 +92,70 @@ class tst_FaultsX11 : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init()
+    {
+        m_desktop.emplace();
+        QVERIFY(m_desktop->isAsExpected());
+    }
+    void cleanup()
+    {
+        m_desktop.reset();
+    }
+
+    void keyboardComesBackToEachDialog_data();
+    void keyboardComesBackToEachDialog();
     void vanishedDisplayEndsTheProgramAsQtsDialogsEndIt_data();
     void vanishedDisplayEndsTheProgramAsQtsDialogsEndIt();
+
+private:
+    std::optional<Desktop> m_desktop;
 };
+
+void tst_FaultsX11::keyboardComesBackToEachDialog_data()
+{
+    QTest::addColumn<int>("index");
+    const QVector<ModalKind> kinds = modalKinds(QString());
+    for (int i = 0; i < kinds.size(); ++i)
+        QTest::newRow(kinds[i].name) << i;
+}
+
+void tst_FaultsX11::keyboardComesBackToEachDialog()
+{
+    QFETCH(int, index);
+    QTemporaryDir folder;
+    QVERIFY(QFile(folder.filePath(QStringLiteral("file.txt"))).open(QIODevice::WriteOnly));
+    const QVector<ModalKind> kinds = modalKinds(folder.path());
+    const ModalKind &inner = kinds[index];
+
+    // GIVEN a window, a dialog on it, and one more on that, which has the keyboard
+    Tarn::Widgets::FramelessWindow window;
+    window.resize(600, 400);
+    QVERIFY(m_desktop->show(&window));
+    MessageSentry sentry; // the file dialog tells what the user did
+    bool hadKeyboard = false;
+    bool hasKeyboard = false;
+    ModalDriver driver([&](QWidget *outer) {
+        QVERIFY(m_desktop->isShown(outer));
+        inner.run(outer);
+        // WHEN that one is answered, THEN the first one has the keyboard again
+        hasKeyboard = QTest::qWaitFor([&] { return m_desktop->hasKeyboard(outer); });
+        kinds.first().accept(outer);
+    });
+    driver.then([&](QWidget *dialog) {
+        QVERIFY(m_desktop->isShown(dialog));
+        hadKeyboard = QTest::qWaitFor([&] { return m_desktop->hasKeyboard(dialog); });
+        inner.accept(dialog);
+    });
+    kinds.first().run(&window);
+    QVERIFY(driver.ran());
+    QVERIFY(hadKeyboard);
+    QVERIFY(hasKeyboard);
+
+    // AND at the end the window, where there is somebody to give it
+    if (XServer::expectsWindowManager())
+        QTRY_VERIFY(m_desktop->hasKeyboard(&window));
+    sentry.clear();
+}
 
 void tst_FaultsX11::vanishedDisplayEndsTheProgramAsQtsDialogsEndIt_data()
 {
