@@ -18,6 +18,7 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <memory>
 #include <tarnwidgets/changednoticelineedit.h>
 #include <tarnwidgets/framelesshelper.h>
 #include <tarnwidgets/framelessmessagebox.h>
@@ -62,17 +63,21 @@ void close(QWidget *dialog)
     dialog->close();
 }
 
-/* Every other time it is accepted, and closed in between; the window is a new one each time, since some leave
- * their dialog to it. */
+/*
+ * Every other time it is accepted, and closed in between. The window stays, so that what is left to it is
+ * seen; it is a new one each time if dialogs are left there by design.
+ */
 std::function<void()> asking(const std::function<void(QWidget *)> &run,
-                             const std::function<void(QWidget *)> &accept)
+                             const std::function<void(QWidget *)> &accept, bool isLeftToParent = false)
 {
-    return [run, accept, isAccepted = false]() mutable {
+    return [run, accept, isLeftToParent, window = std::shared_ptr<QWidget>(), isAccepted = false]() mutable {
         isAccepted = !isAccepted;
-        QWidget window;
-        window.show();
+        if (isLeftToParent || window == nullptr) {
+            window = std::make_shared<QWidget>();
+            window->show();
+        }
         whenOpen(isAccepted ? accept : close);
-        run(&window);
+        run(window.get());
     };
 }
 
@@ -199,7 +204,8 @@ QVector<Subject> subjects(const QString &folder)
     QVector<Subject> all;
     const QVector<Test::ModalKind> kinds = Test::modalKinds(folder);
     for (const Test::ModalKind &kind : kinds)
-        all.append({QString::fromLatin1(kind.name), true, asking(kind.run, kind.accept)});
+        all.append(
+            {QString::fromLatin1(kind.name), true, asking(kind.run, kind.accept, kind.isLeftToParent)});
     return all + ourWidgets() + qtWidgets();
 }
 

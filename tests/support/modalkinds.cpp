@@ -164,10 +164,10 @@ QVector<ModalKind> framelessFileDialogs(const QString &folder)
         return FramelessFileDialog::getExistingDirectory(parent, QString(), folder);
     };
     return {{"FramelessFileDialog", exec, enterFile, Accepted, Rejected, Rejected, Rejected},
-            {"getOpenFileName", open, enterFile, file, Nothing, Nothing, Nothing},
-            {"getOpenFileNames", openSeveral, enterFile, file, Nothing, Nothing, Nothing},
-            {"getSaveFileName", save, enterFile, file, Nothing, Nothing, Nothing},
-            {"getExistingDirectory", directory, enterFolder, folder, Nothing, Nothing, Nothing}};
+            {"getOpenFileName", open, enterFile, file, Nothing, Nothing, Nothing, true},
+            {"getOpenFileNames", openSeveral, enterFile, file, Nothing, Nothing, Nothing, true},
+            {"getSaveFileName", save, enterFile, file, Nothing, Nothing, Nothing, true},
+            {"getExistingDirectory", directory, enterFolder, folder, Nothing, Nothing, Nothing, true}};
 }
 
 QVector<ModalKind> limitedFileDialogs(const QString &folder)

@@ -27,6 +27,9 @@ struct ModalKind
     QString closed; //!< What it returns when the dialog is closed; null if that is the last colour chosen.
     QString orphaned; //!< What it returns when the dialog is deleted with its parent; null likewise.
     QString interrupted; //!< What it returns when the program quits; null likewise.
+
+    /*! Whether the dialog stays with its parent until that is deleted. */
+    bool isLeftToParent = false;
 };
 
 /*! Every one-call function and every class of dialog; \a folder has a file "file.txt". */
