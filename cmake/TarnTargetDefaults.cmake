@@ -30,6 +30,14 @@ function(tarn_strict_qt target)
         QT_NO_FOREACH)
 endfunction()
 
+# For what the coverage report is about. The tests need no counters of their own: they run as they do elsewhere. Not
+# optimised, so that each line and each branch is still the one that the source has.
+function(tarn_counted target)
+    if(TARN_COVERAGE)
+        target_compile_options(${target} PRIVATE --coverage -O0 -fno-exceptions)
+    endif()
+endfunction()
+
 # For the sources of our shared libraries: the linker can leave out what no exported symbol leads to, and a call within
 # a source file goes straight to its function. The address of a function stays the one that the program sees, which
 # -Bsymbolic-functions would change: in a program without -fPIC, as Qt for AArch64 allows, a connection to a signal by
