@@ -202,6 +202,7 @@ private Q_SLOTS:
     void dragNeedsAPressBeforeIt();
     void swatchTakesColorsOnly_data();
     void swatchTakesColorsOnly();
+    void dropWhoseColorIsGoneChangesNothing();
     void droppedColorIsToldAndShown();
     void droppedColorBecomesOpaque();
     void leavingDragChangesNothing();
@@ -865,6 +866,29 @@ void tst_ColorShower::swatchTakesColorsOnly()
     QCOMPARE(drops.count(), isTaken ? 1 : 0);
     QCOMPARE(edits.count(), isTaken ? 1 : 0);
     QCOMPARE(fixture.shower.currentColor(), isTaken ? QRgb(0xff010203) : QRgb(0xffc8501e));
+}
+
+// Another program may have it no longer, once the drop asks for it.
+void tst_ColorShower::dropWhoseColorIsGoneChangesNothing()
+{
+    // GIVEN a shower with a colour, and another that is dragged over it
+    Fixture fixture;
+    QVERIFY(fixture.isComplete());
+    fixture.shower.setRgb(0xffc8501e);
+    QSignalSpy drops(fixture.swatch, &ColorShowLabel::colorDropped);
+    QMimeData color;
+    color.setColorData(QColor(1, 2, 3));
+    QVERIFY(dragEnter(fixture.swatch, color));
+
+    // WHEN the drop comes without it
+    const QMimeData nothing;
+    QDropEvent event(QPointF(5, 5), Qt::CopyAction, &nothing, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(fixture.swatch, &event);
+
+    // THEN it is refused, and the colour is the one of before
+    QVERIFY(!event.isAccepted());
+    QCOMPARE(drops.count(), 0);
+    QCOMPARE(fixture.shower.currentColor(), QRgb(0xffc8501e));
 }
 
 void tst_ColorShower::droppedColorIsToldAndShown()

@@ -134,6 +134,7 @@ private Q_SLOTS:
     void pressInTheDialogActivatesIt();
     void pressInANativeChildActivatesTheDialog_data();
     void pressInANativeChildActivatesTheDialog();
+    void pressInANativeChildThatHasLeftIsNoneInTheDialog();
     void touchInTheDialogActivatesIt();
     void keyboardGoesBackToWhereItCameFrom_data();
     void keyboardGoesBackToWhereItCameFrom();
@@ -537,6 +538,40 @@ void tst_FramelessDialogUse::pressInANativeChildActivatesTheDialog()
     QTRY_VERIFY(QGuiApplication::focusWindow() != main.windowHandle());
     QTRY_VERIFY(field->hasFocus());
     QVERIFY(dialog.isActiveWindow());
+}
+
+void tst_FramelessDialogUse::pressInANativeChildThatHasLeftIsNoneInTheDialog()
+{
+    // GIVEN a modeless dialog, and a panel of native windows that has moved from there to the main one
+    QWidget main;
+    main.setGeometry(0, 0, 100, 100);
+    main.show();
+    TestDialog dialog(&main);
+    dialog.setGeometry(200, 200, 300, 200);
+    auto *content = new QVBoxLayout;
+    auto *panel = new QWidget;
+    auto *field = new QLineEdit(panel);
+    content->addWidget(panel);
+    dialog.setLayout(content);
+    dialog.show();
+    field->winId();
+    const WId nativePanel = panel->winId();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    panel->setParent(&main);
+    panel->show();
+    QCOMPARE(panel->winId(), nativePanel); // otherwise there would be nothing to forget
+    main.activateWindow();
+    QTRY_COMPARE(QGuiApplication::focusWindow(), main.windowHandle());
+    int focusChanges = 0;
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, &dialog, [&] { ++focusChanges; });
+
+    // WHEN the user presses in a field on it
+    QTest::mouseClick(field->windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+    QCoreApplication::processEvents();
+
+    // THEN the dialog has not taken the keyboard
+    QCOMPARE(focusChanges, 0);
+    QVERIFY(!dialog.isActiveWindow());
 }
 
 void tst_FramelessDialogUse::touchInTheDialogActivatesIt()

@@ -232,6 +232,7 @@ private Q_SLOTS:
     void clickEndsTheBoxBeforeItIsReported();
     void boxMayBeDeletedByWhoeverHearsOfTheClick_data();
     void boxMayBeDeletedByWhoeverHearsOfTheClick();
+    void boxMayBeDeletedByWhoeverHearsThatItCloses();
     void closingGivesTheEscapeButton();
     void closingWithAButtonThatWasTakenOutGivesMinusOne();
     void closingWithDeadButtonsGivesMinusOne();
@@ -1051,6 +1052,19 @@ void tst_FramelessMessageBox::boxMayBeDeletedByWhoeverHearsOfTheClick()
     else
         connect(box, &FramelessMessageBox::buttonClicked, this, remove);
     QMetaObject::invokeMethod(box, "slot_buttonClicked", Q_ARG(QAbstractButton *, button.get()));
+    QVERIFY(!box);
+}
+
+void tst_FramelessMessageBox::boxMayBeDeletedByWhoeverHearsThatItCloses()
+{
+    // GIVEN a box that is deleted as soon as it has finished
+    const QPointer<FramelessMessageBox> box = new FramelessMessageBox;
+    box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    show(*box);
+    connect(box, &QDialog::finished, this, [&] { delete box; });
+
+    // WHEN it is closed, THEN it is gone, and nothing is asked of it any more
+    box->close();
     QVERIFY(!box);
 }
 

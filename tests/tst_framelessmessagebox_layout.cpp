@@ -247,6 +247,7 @@ private Q_SLOTS:
     // Size
     void limitsFollowTheScreen_data();
     void limitsFollowTheScreen();
+    void limitIsThePrimaryScreensWhereTheCursorIsOnNone();
     void smallestBox();
     void hiddenBoxIsNotSized();
     void titleWidensUpToTheScreen_data();
@@ -719,6 +720,28 @@ void tst_FramelessMessageBoxLayout::limitsFollowTheScreen()
     QFETCH(int, soft);
     QCOMPARE(FramelessMessageBoxPrivate::hardWidthLimit(screen), hard);
     QCOMPARE(FramelessMessageBoxPrivate::softWidthLimit(screen), soft);
+}
+
+// Screens of different sizes leave places beside them, and a screen that is switched off leaves the cursor
+// there.
+void tst_FramelessMessageBoxLayout::limitIsThePrimaryScreensWhereTheCursorIsOnNone()
+{
+    // GIVEN a cursor beside all screens
+    const QPoint before = QCursor::pos();
+    QCursor::setPos(-5000, -5000);
+    QVERIFY(!QGuiApplication::screenAt(QCursor::pos()));
+
+    // WHEN a box with a long text is shown
+    Box box(QMessageBox::NoIcon, QStringLiteral("t"), QStringLiteral("word ").repeated(500));
+    show(box);
+    const QSize beside = box.size();
+    QCursor::setPos(before);
+
+    // THEN it is as large as one on the primary screen
+    QVERIFY(QGuiApplication::screenAt(QCursor::pos()) == QGuiApplication::primaryScreen());
+    Box other(QMessageBox::NoIcon, QStringLiteral("t"), QStringLiteral("word ").repeated(500));
+    show(other);
+    QCOMPARE(beside, other.size());
 }
 
 void tst_FramelessMessageBoxLayout::smallestBox()

@@ -8,9 +8,11 @@
 #include "support/modaldriver.h"
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QCompleter>
+#include <QContextMenuEvent>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
@@ -19,9 +21,11 @@
 #include <QIdentityProxyModel>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <QUrl>
 #include <functional>
@@ -35,11 +39,35 @@ namespace {
 
 using Attempt = std::function<void(LimitScene &)>;
 using Call = std::function<QString(const LimitTree &, const QString &root)>;
+using Change = std::function<void(LimitedFileDialog &)>;
+
+/*! Calls the menu for an item that is there, by the keyboard, and chooses one of QFileDialog's actions. */
+void chooseInMenu(LimitScene &scene, const QModelIndex &index, const QString &action)
+{
+    bool isChosen = false;
+    QTimer::singleShot(0, &scene.dialog, [&] {
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        auto *chosen = scene.dialog.findChild<QAction *>(action);
+        isChosen = menu && chosen && menu->actions().contains(chosen) && chosen->isEnabled();
+        if (isChosen) {
+            menu->setActiveAction(chosen);
+            QTest::keyClick(menu, Qt::Key_Return);
+        } else if (menu) {
+            menu->close();
+        }
+    });
+    const QPoint pos = scene.list()->visualRect(index).center();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, pos, scene.list()->viewport()->mapToGlobal(pos));
+    QCoreApplication::sendEvent(scene.list()->viewport(), &event);
+    if (!isChosen)
+        qWarning("%s cannot be chosen", qPrintable(action));
+}
 
 } // namespace
 
 Q_DECLARE_METATYPE(Attempt)
 Q_DECLARE_METATYPE(Call)
+Q_DECLARE_METATYPE(Change)
 
 class tst_LimitedFileDialogStrict : public QObject
 {
@@ -66,6 +94,8 @@ private Q_SLOTS:
     void deletesLinksButNotWhatTheyLeadTo_data();
     void deletesLinksButNotWhatTheyLeadTo();
     void deletesNothingAboveByDots();
+    void deletesNothingOutsideByTheMenu_data();
+    void deletesNothingOutsideByTheMenu();
     void startsInTheRoot();
     void startsInTheRootAfterTheLimitIsMadeStrict();
     void staysInAStartFolderInside();
@@ -86,6 +116,9 @@ private Q_SLOTS:
     void vanishedFolderTakesItsTypedNameAlong();
     void linkInPlaceOfTheRootRefusesEverything();
     void emptyPathLiftsTheLimit();
+    void selectionStaysWhereThereIsNoLimit();
+    void missingPartIsDoneWithout_data();
+    void missingPartIsDoneWithout();
     void switchingOffBringsThePlainLimitBack();
     void switchingLeavesTheLayoutAsItWas();
     void newDialogsTakeTheDefault();
@@ -496,6 +529,33 @@ void tst_LimitedFileDialogStrict::deletesNothingAboveByDots()
     QVERIFY(QFileInfo::exists(scene.tree.at("root/file.txt")));
 }
 
+void tst_LimitedFileDialogStrict::deletesNothingOutsideByTheMenu_data()
+{
+    QTest::addColumn<bool>("isStrict");
+    QTest::newRow("strict") << true;
+    QTest::newRow("plain, which does not care") << false;
+}
+
+void tst_LimitedFileDialogStrict::deletesNothingOutsideByTheMenu()
+{
+    QFETCH(bool, isStrict);
+
+    // GIVEN a dialog in which typing has selected a file outside
+    const Answerer answerer;
+    LimitScene scene(isStrict);
+    const QModelIndex inside = scene.item("file.txt");
+    scene.edit()->setText(scene.tree.at("outside/secret.txt"));
+    QTRY_VERIFY(scene.list()->selectionModel()->hasSelection());
+
+    // WHEN the user calls the menu and chooses to delete
+    scene.list()->setFocus();
+    chooseInMenu(scene, inside, QStringLiteral("qt_delete_action"));
+
+    // THEN the file is deleted if the dialog is not strict, and none is if it is
+    QCOMPARE(scene.isOutsideUntouched(), isStrict);
+    QVERIFY(QFileInfo::exists(scene.tree.at("root/file.txt")));
+}
+
 void tst_LimitedFileDialogStrict::startsInTheRoot()
 {
     const LimitTree other;
@@ -869,6 +929,80 @@ void tst_LimitedFileDialogStrict::emptyPathLiftsTheLimit()
     QVERIFY(scene.dialog.pathFits(scene.tree.at("outside")));
     scene.dialog.setDirectory(scene.tree.at("outside"));
     QCOMPARE(scene.dialog.directory().absolutePath(), scene.tree.at("outside"));
+}
+
+void tst_LimitedFileDialogStrict::selectionStaysWhereThereIsNoLimit()
+{
+    // GIVEN a strict dialog without a limit, where a file of another folder is typed and so selected
+    LimitScene scene(true);
+    scene.dialog.setLimitedPath(QString());
+    scene.edit()->setText(scene.tree.at("outside/secret.txt"));
+    const auto *selection = scene.list()->selectionModel();
+    QTRY_VERIFY(selection->hasSelection());
+
+    // WHEN a key is pressed that may change files
+    scene.list()->setFocus();
+    QTest::keyClick(scene.list(), Qt::Key_F2);
+
+    // THEN it is the user's own business
+    QVERIFY(selection->hasSelection());
+}
+
+void tst_LimitedFileDialogStrict::missingPartIsDoneWithout_data()
+{
+    QTest::addColumn<Change>("takeAway");
+
+    // As if QFileDialog gave its parts other names: Qt promises none.
+    for (const char *name : {"fileNameEdit", "lookInCombo", "buttonBox", "newFolderButton", "stackedWidget",
+                             "toParentButton", "backButton", "sidebar", "listView", "treeView"}) {
+        QTest::newRow(name) << Change([name](LimitedFileDialog &dialog) {
+            auto *part = dialog.findChild<QWidget *>(QLatin1String(name));
+            QVERIFY(part);
+            part->setObjectName(QStringLiteral("other"));
+        });
+    }
+    QTest::newRow("no buttons") << Change(
+        [](LimitedFileDialog &dialog) { dialog.findChild<QDialogButtonBox *>()->clear(); });
+    QTest::newRow("no completer") << Change([](LimitedFileDialog &dialog) {
+        dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setCompleter(nullptr);
+    });
+    QTest::newRow("no layout") << Change([](LimitedFileDialog &dialog) { delete dialog.layout(); });
+    QTest::newRow("layout with nothing in it") << Change([](LimitedFileDialog &dialog) {
+        delete dialog.layout();
+        new QGridLayout(&dialog);
+    });
+}
+
+void tst_LimitedFileDialogStrict::missingPartIsDoneWithout()
+{
+    QFETCH(Change, takeAway);
+
+    // GIVEN a dialog in which the part is not to be found
+    const LimitTree tree;
+    LimitedFileDialog dialog(nullptr, QString(), tree.at("root"));
+    takeAway(dialog);
+
+    // WHEN it becomes strict and is used
+    dialog.setStrict(true);
+    dialog.setLimitedPath(tree.at("root"));
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    dialog.setDirectory(tree.at("root/sub"));
+    auto *edit = dialog.findChild<QLineEdit *>();
+    QVERIFY(edit);
+    edit->setText(tree.at("outside/secret.txt"));
+    edit->setText(QStringLiteral("file.txt"));
+
+    // THEN it holds the limit, and admits nothing once that has vanished
+    QCOMPARE(dialog.directory().absolutePath(), tree.at("root/sub"));
+    QVERIFY(dialog.pathFits(tree.at("root/sub")));
+    QVERIFY(!dialog.pathFits(tree.at("outside")));
+    dialog.setDirectory(tree.at("outside"));
+    QCOMPARE(dialog.directory().absolutePath(), tree.at("root/sub"));
+    QVERIFY(QFile::rename(tree.at("root"), tree.at("gone")));
+    dialog.setDirectory(tree.at("outside"));
+    QVERIFY(!dialog.pathFits(tree.at("outside")));
+    QVERIFY(!dialog.pathFits(tree.at("root/sub")));
 }
 
 void tst_LimitedFileDialogStrict::switchingOffBringsThePlainLimitBack()
