@@ -67,6 +67,10 @@ QWidget *pickSubjectWidget(Context &context);
 /*! Whether the table of calls knows the class of \a object. */
 bool hasCalls(const QObject *object);
 
+/*! Has the tally expect each of our functions, properties and slots, and each of the modal dialogs. */
+void expectCalls();
+void expectModals();
+
 /*! Ends the innermost event loop, if it is that of a popup, a modal dialog or a drag. */
 void endInnermostLoop(Stage &stage, Dice &dice, bool mayDelete);
 

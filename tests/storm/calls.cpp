@@ -4,6 +4,8 @@
 // What programs call: the table of our own functions, and the properties and slots that Qt knows of.
 
 #include "acts.h"
+#include "call.h"
+#include "tally.h"
 
 #include <QAction>
 #include <QApplication>
@@ -17,23 +19,21 @@
 #include <QMetaProperty>
 #include <QPushButton>
 #include <QToolButton>
-#include <functional>
+#include <algorithm>
+#include <iterator>
 #include <tarnwidgets/colordialog.h>
 #include <tarnwidgets/framelessdialog.h>
-#include <tarnwidgets/framelessfiledialog.h>
 #include <tarnwidgets/framelesshelper.h>
 #include <tarnwidgets/framelessmessagebox.h>
 #include <tarnwidgets/framelesswindow.h>
 #include <tarnwidgets/frameline.h>
 #include <tarnwidgets/iplineedit.h>
-#include <tarnwidgets/limitedfiledialog.h>
 #include <tarnwidgets/stylesheetwidget.h>
 #include <tarnwidgets/tarnpushbutton.h>
 #include <tarnwidgets/tarntabbar.h>
 #include <tarnwidgets/tarntabwidget.h>
 #include <tarnwidgets/titlebar.h>
 #include <tarnwidgets/toolbutton.h>
-#include <tuple>
 
 using namespace Tarn::Widgets;
 
@@ -41,51 +41,13 @@ namespace Tarn::Storm {
 
 namespace {
 
-struct Call
-{
-    const QMetaObject *owner;
-    const char *name;
-    std::function<void(QObject *object, Source source)> run;
-};
-
-template <typename Class, typename Function, typename... Arguments>
-Call makeCall(const char *name, Function function, std::tuple<Arguments...> *)
-{
-    return {&Class::staticMetaObject, name, [function](QObject *object, [[maybe_unused]] Source source) {
-                // Braces, so that arguments are drawn in one order everywhere.
-                std::tuple<std::decay_t<Arguments>...> drawn{draw<Arguments>(source)...};
-                std::apply(
-                    [&](auto &...arguments) { (static_cast<Class *>(object)->*function)(arguments...); },
-                    drawn);
-            }};
-}
-
-template <typename Class, typename Base, typename Result, typename... Arguments>
-Call call(const char *name, Result (Base::*function)(Arguments...))
-{
-    return makeCall<Class>(name, function, static_cast<std::tuple<Arguments...> *>(nullptr));
-}
-
-template <typename Class, typename Base, typename Result, typename... Arguments>
-Call call(const char *name, Result (Base::*function)(Arguments...) const)
-{
-    return makeCall<Class>(name, function, static_cast<std::tuple<Arguments...> *>(nullptr));
-}
-
-// A call that needs more than drawn arguments.
-template <typename Class, typename Function> Call special(const char *name, Function function)
-{
-    return {&Class::staticMetaObject, name,
-            [function](QObject *object, Source source) { function(static_cast<Class *>(object), source); }};
-}
-
-#define CALL(Class, function) call<Class>(#Class "::" #function, &Class::function)
-#define CALL_OVERLOAD(Class, function, ...)                                                                  \
-    call<Class>(#Class "::" #function, qOverload<__VA_ARGS__>(&Class::function))
-
 QVector<Call> titleBarCalls()
 {
     return {CALL(TitleBar, setTitle),
+            CALL(TitleBar, title),
+            CALL(TitleBar, titleLabel),
+            CALL(TitleBar, isTitleVisible),
+            CALL(TitleBar, getTitleVBarMainLayout),
             CALL(TitleBar, setTitleAlignment),
             CALL(TitleBar, setTitleVisible),
             CALL(TitleBar, titleButton),
@@ -102,7 +64,7 @@ QVector<Call> titleBarCalls()
             CALL(TitleBar, retranslateUi),
             CALL(TitleBar, switchMaxMin),
             CALL(TitleBar, clearChecked),
-            special<TitleBar>("TitleBar::appendCloseEvent", [](TitleBar *bar, Source source) {
+            special<TitleBar>("appendCloseEvent", [](TitleBar *bar, Source source) {
                 const int kind = source.dice.below(3);
                 if (kind == 0)
                     bar->appendCloseEvent({});
@@ -113,55 +75,60 @@ QVector<Call> titleBarCalls()
 
 QVector<Call> dialogCalls()
 {
-    return {
-        CALL(FramelessDialog, getContentHolder),
-        CALL(FramelessDialog, noCentralHeight),
-        CALL(FramelessDialog, setWindowTitle),
-        CALL(FramelessDialog, setWindowTitleAlignment),
-        CALL(FramelessDialog, setWindowIcon),
-        CALL(FramelessDialog, setTitleButtonIcon),
-        CALL(FramelessDialog, appendExtendTitleButton),
-        CALL(FramelessDialog, insertExtendTitleButton),
-        CALL(FramelessDialog, setMinButtonVisible),
-        CALL(FramelessDialog, setMaxButtonVisible),
-        CALL(FramelessDialog, setCloseButtonVisible),
-        CALL(FramelessDialog, getCloseButtonVisible),
-        CALL(FramelessDialog, setOKButtonVisible),
-        CALL(FramelessDialog, setCancelButtonVisible),
-        CALL(FramelessDialog, setApplyButtonVisible),
-        CALL(FramelessDialog, setOKButtonDefault),
-        CALL(FramelessDialog, setBottomBarVisible),
-        special<FramelessDialog>("FramelessDialog::setHorizontalLineHeight",
-                                 [](FramelessDialog *dialog, Source source) {
-                                     dialog->setHorizontalLineHeight(source.dice.between(0, 40));
-                                 }),
-        CALL(FramelessDialog, setDialogMovable),
-        CALL(FramelessDialog, setDialogtMovable),
-        CALL(FramelessDialog, setDialogResizable),
-        CALL(FramelessDialog, setRubberBandOnMove),
-        CALL(FramelessDialog, setRubberBandOnResize),
-        CALL(FramelessDialog, reTranslateUI),
-        CALL(FramelessDialog, swithMaxNormal),
-        CALL(FramelessDialog, show),
-        CALL(FramelessDialog, showMinimized),
-        CALL(FramelessDialog, showMaximized),
-        CALL(FramelessDialog, showFullScreen),
-        CALL(FramelessDialog, showNormal),
-        special<FramelessDialog>("FramelessDialog::setLayout", [](FramelessDialog *dialog, Source source) {
-            // What is derived from it has its own layout there.
-            if (dialog->metaObject() != &FramelessDialog::staticMetaObject || source.dice.oneIn(3)) {
-                dialog->setLayout(nullptr);
-                return;
-            }
-            if (source.dice.oneIn(2))
-                delete dialog->layout();
-            // A place that is taken is not given away, Qt says so in its log.
-            if (dialog->layout())
-                return;
-            auto *layout = new QFormLayout;
-            layout->addRow(drawText(source.dice), new QLineEdit);
-            dialog->setLayout(layout);
-        })};
+    return {CALL(FramelessDialog, getContentHolder),
+            CALL(FramelessDialog, getMainLayout),
+            CALL(FramelessDialog, layout),
+            CALL(FramelessDialog, windowTitle),
+            CALL(FramelessDialog, windowIcon),
+            CALL(ColorDialog, setInitColor),
+            CALL(ColorDialog, reTranslateUI),
+            CALL(FramelessDialog, noCentralHeight),
+            CALL(FramelessDialog, setWindowTitle),
+            CALL(FramelessDialog, setWindowTitleAlignment),
+            CALL(FramelessDialog, setWindowIcon),
+            CALL(FramelessDialog, setTitleButtonIcon),
+            CALL(FramelessDialog, appendExtendTitleButton),
+            CALL(FramelessDialog, insertExtendTitleButton),
+            CALL(FramelessDialog, setMinButtonVisible),
+            CALL(FramelessDialog, setMaxButtonVisible),
+            CALL(FramelessDialog, setCloseButtonVisible),
+            CALL(FramelessDialog, getCloseButtonVisible),
+            CALL(FramelessDialog, setOKButtonVisible),
+            CALL(FramelessDialog, setCancelButtonVisible),
+            CALL(FramelessDialog, setApplyButtonVisible),
+            CALL(FramelessDialog, setOKButtonDefault),
+            CALL(FramelessDialog, setBottomBarVisible),
+            special<FramelessDialog>("setHorizontalLineHeight",
+                                     [](FramelessDialog *dialog, Source source) {
+                                         dialog->setHorizontalLineHeight(source.dice.between(0, 40));
+                                     }),
+            CALL(FramelessDialog, setDialogMovable),
+            CALL(FramelessDialog, setDialogtMovable),
+            CALL(FramelessDialog, setDialogResizable),
+            CALL(FramelessDialog, setRubberBandOnMove),
+            CALL(FramelessDialog, setRubberBandOnResize),
+            CALL(FramelessDialog, reTranslateUI),
+            CALL(FramelessDialog, swithMaxNormal),
+            CALL(FramelessDialog, show),
+            CALL(FramelessDialog, showMinimized),
+            CALL(FramelessDialog, showMaximized),
+            CALL(FramelessDialog, showFullScreen),
+            CALL(FramelessDialog, showNormal),
+            special<FramelessDialog>("setLayout", [](FramelessDialog *dialog, Source source) {
+                // What is derived from it has its own layout there.
+                if (dialog->metaObject() != &FramelessDialog::staticMetaObject || source.dice.oneIn(3)) {
+                    dialog->setLayout(nullptr);
+                    return;
+                }
+                if (source.dice.oneIn(2))
+                    delete dialog->layout();
+                // A place that is taken is not given away, Qt says so in its log.
+                if (dialog->layout())
+                    return;
+                auto *layout = new QFormLayout;
+                layout->addRow(drawText(source.dice), new QLineEdit);
+                dialog->setLayout(layout);
+            })};
 }
 
 QVector<Call> windowCalls()
@@ -170,6 +137,10 @@ QVector<Call> windowCalls()
             CALL_OVERLOAD(FramelessWindow, setCentralWidget, QWidget *, bool),
             CALL(FramelessWindow, centralWidget),
             CALL(FramelessWindow, setWindowTitle),
+            CALL(FramelessWindow, getTitleBar),
+            CALL(FramelessWindow, windowTitle),
+            CALL(FramelessWindow, windowIcon),
+            CALL(FramelessWindow, windowIconText),
             CALL(FramelessWindow, setWindowIcon),
             CALL(FramelessWindow, setWindowIconText),
             CALL(FramelessWindow, setCursorStyle),
@@ -178,19 +149,25 @@ QVector<Call> windowCalls()
 
 QVector<Call> helperCalls()
 {
-    return {special<FramelessHelper>("FramelessHelper::activateOn",
+    return {special<FramelessHelper>("activateOn",
                                      [](FramelessHelper *helper, Source source) {
                                          const QVector<QWidget *> windows = source.stage.windows();
                                          helper->activateOn(windows.isEmpty() ? nullptr
                                                                               : source.dice.pickOf(windows));
                                      }),
-            special<FramelessHelper>("FramelessHelper::removeFrom",
+            special<FramelessHelper>("removeFrom",
                                      [](FramelessHelper *helper, Source source) {
                                          const QVector<QWidget *> windows = source.stage.windows();
                                          helper->removeFrom(windows.isEmpty() ? nullptr
                                                                               : source.dice.pickOf(windows));
                                      }),
             CALL(FramelessHelper, setWidgetMovable),
+            CALL(FramelessHelper, widgetMovable),
+            CALL(FramelessHelper, widgetResizable),
+            CALL(FramelessHelper, rubberBandOnMove),
+            CALL(FramelessHelper, rubberBandOnResisze),
+            CALL(FramelessHelper, borderWidth),
+            CALL(FramelessHelper, titleHeight),
             CALL(FramelessHelper, setWidgetResizable),
             CALL(FramelessHelper, setRubberBandOnMove),
             CALL(FramelessHelper, setRubberBandOnResize),
@@ -198,62 +175,116 @@ QVector<Call> helperCalls()
             CALL(FramelessHelper, setTitleHeight)};
 }
 
-QVector<Call> buttonAndLineCalls()
+// The four fields are the editor's own, and not to be deleted.
+QVector<Call> addressCalls()
 {
     return {
-        CALL(TarnPushButton, isOpenRotation),
-        CALL(TarnPushButton, setRotationDirection),
-        CALL(TarnPushButton, setBtnText),
-        CALL(TarnPushButton, getBtnText),
-        CALL(TarnPushButton, setText),
-        CALL(ToolButton, recover),
-        special<ToolButton>("ToolButton::setMenu",
-                            [](ToolButton *button, Source source) {
-                                if (source.dice.oneIn(3)) {
-                                    button->setMenu(nullptr);
-                                    return;
-                                }
-                                auto *menu = new QMenu(source.stage.nursery());
-                                for (int left = source.dice.below(5); left > 0; --left)
-                                    menu->addAction(drawText(source.dice));
-                                source.stage.own(menu);
-                                button->setMenu(menu);
-                            }),
-        special<ToolButton>("ToolButton::setPopupMode",
-                            [](ToolButton *button, Source source) {
-                                button->setPopupMode(
-                                    source.dice.pick({QToolButton::DelayedPopup, QToolButton::MenuButtonPopup,
-                                                      QToolButton::InstantPopup}));
-                            }),
-        special<IPLineEdit>("IPLineEdit::setText",
+        special<IPLineEdit>("setText",
                             [](IPLineEdit *edit, Source source) { edit->setText(drawAddress(source.dice)); }),
         special<IPLineEdit>(
-            "IPLineEdit::isTextValid",
+            "isTextValid",
             [](IPLineEdit *edit, Source source) { edit->isTextValid(drawAddress(source.dice)); }),
         special<IPLineEdit>(
-            "IPLineEdit::setProperty",
+            "setProperty",
             [](IPLineEdit *edit, Source source) {
                 edit->setProperty(source.dice.pick({"marked", "readOnly", "enabled"}), source.dice.oneIn(2));
             }),
         CALL(IPLineEdit, setAcceptsAnyAddress),
+        CALL(IPLineEdit, acceptsAnyAddress),
+        CALL(IPLineEdit, text),
+        special<IPLineEdit>("getIndex",
+                            [](IPLineEdit *edit, Source source) {
+                                const QList<QLineEdit *> fields = edit->findChildren<QLineEdit *>();
+                                edit->getIndex(fields.isEmpty() || source.dice.oneIn(4)
+                                                   ? edit
+                                                   : fields.at(source.dice.below(fields.size())));
+                            }),
         CALL(IPLineEdit, isModified),
         CALL(IPLineEdit, hasAcceptableInput),
         CALL(IPLineEdit, clear),
         CALL(IPLineEdit, setIPFocus),
-        CALL(IPLineEdit, slot_fixInput),
-        special<StyleSheetWidget>("FrameLine", [](StyleSheetWidget *panel, Source source) {
-            const auto width = uint(source.dice.below(20));
-            QFrame *line = source.dice.oneIn(2)
-                ? FrameLine::createHorizontalLine(drawText(source.dice).left(20), panel, width, 1, 1)
-                : FrameLine::createVerticalLine(drawText(source.dice).left(20), panel, width, 1, 1);
-            source.stage.own(line);
-        })};
+        CALL(IPLineEdit, slot_fixInput)};
+}
+
+QVector<Call> buttonAndLineCalls()
+{
+    return {CALL(TarnPushButton, isOpenRotation),
+            CALL(TarnPushButton, setRotationDirection),
+            CALL(TarnPushButton, setBtnText),
+            CALL(TarnPushButton, getBtnText),
+            CALL(TarnPushButton, setText),
+            CALL(ToolButton, recover),
+            special<ToolButton>("setMenu",
+                                [](ToolButton *button, Source source) {
+                                    if (source.dice.oneIn(3)) {
+                                        button->setMenu(nullptr);
+                                        return;
+                                    }
+                                    auto *menu = new QMenu(source.stage.nursery());
+                                    for (int left = source.dice.below(5); left > 0; --left)
+                                        menu->addAction(drawText(source.dice));
+                                    source.stage.own(menu);
+                                    button->setMenu(menu);
+                                }),
+            special<ToolButton>("setPopupMode",
+                                [](ToolButton *button, Source source) {
+                                    button->setPopupMode(source.dice.pick({QToolButton::DelayedPopup,
+                                                                           QToolButton::MenuButtonPopup,
+                                                                           QToolButton::InstantPopup}));
+                                }),
+            special<StyleSheetWidget>("create...Line", [](StyleSheetWidget *panel, Source source) {
+                const FrameLine factory(panel); // an object of it has nothing to say
+                const auto width = uint(source.dice.below(20));
+                QFrame *line = source.dice.oneIn(2)
+                    ? FrameLine::createHorizontalLine(drawText(source.dice).left(20), panel, width, 1, 1)
+                    : FrameLine::createVerticalLine(drawText(source.dice).left(20), panel, width, 1, 1);
+                source.stage.own(line);
+            })};
 }
 
 QVector<Call> tabCalls()
 {
     return {CALL(TabBarRd, setTabBarType),
-            special<TarnTabBar>("TarnTabBar::setWidgetFixedSize",
+            CALL(TabBarRd, getTabBarType),
+            CALL(TabBarRd, getTabMinWidth),
+            CALL(TabBarRd, getTabMaxWidth),
+            CALL(TarnTabBar, getTabBar),
+            CALL(TarnTabBar, widgetColor),
+            special<TarnTabBar>("fromColorToStr",
+                                [](TarnTabBar *, Source source) {
+                                    TarnTabBar::fromColorToStr(drawColor(source.dice));
+                                    TarnTabWidget::fromColorToStr(drawColor(source.dice));
+                                }),
+            CALL(TarnTabBar, getTabBarType),
+            CALL(TarnTabBar, getTabMinWidth),
+            CALL(TarnTabBar, getTabMaxWidth),
+            CALL(TarnTabBar, expanding),
+            CALL(TarnTabBar, autoHide),
+            CALL(TarnTabBar, isMovable),
+            CALL(TarnTabBar, tabsClosable),
+            CALL(TarnTabBar, usesScrollButtons),
+            CALL(TarnTabBar, elideMode),
+            CALL(TarnTabBar, iconSize),
+            CALL(TarnTabBar, count),
+            CALL(TarnTabWidget, getTabBar),
+            CALL(TarnTabWidget, getStackWidget),
+            CALL(TarnTabWidget, count),
+            CALL(TarnTabWidget, currentIndex),
+            CALL(TarnTabWidget, currentWidget),
+            CALL(TarnTabWidget, getTabBarType),
+            CALL(TarnTabWidget, getTabMinWidth),
+            CALL(TarnTabWidget, getTabMaxWidth),
+            CALL(TarnTabWidget, autoHide),
+            CALL(TarnTabWidget, isMovable),
+            CALL(TarnTabWidget, tabsClosable),
+            CALL(TarnTabWidget, usesScrollButtons),
+            CALL(TarnTabWidget, elideMode),
+            CALL(TarnTabWidget, iconSize),
+            CALL(TarnTabWidget, isTabEnabled),
+            CALL(TarnTabWidget, tabIcon),
+            CALL(TarnTabWidget, tabData),
+            CALL(TarnTabWidget, addPage),
+            special<TarnTabBar>("setWidgetFixedSize",
                                 [](TarnTabBar *bar, Source source) {
                                     const QSize size = drawSize(source.dice);
                                     bar->setWidgetFixedSize(size.width(), size.height());
@@ -286,7 +317,7 @@ QVector<Call> tabCalls()
             CALL(TarnTabBar, tabData),
             CALL(TarnTabBar, setTabData),
             CALL(TarnTabBar, tabButton),
-            special<TarnTabBar>("TarnTabBar::setTabButton",
+            special<TarnTabBar>("setTabButton",
                                 [](TarnTabBar *bar, Source source) {
                                     // Not the storm's to delete: QTabBar keeps a plain pointer and crashes.
                                     const int place = source.dice.below(4);
@@ -296,7 +327,7 @@ QVector<Call> tabCalls()
                                 }),
             CALL(TarnTabBar, tabRect),
             CALL(TarnTabBar, tabAt),
-            special<TarnTabWidget>("TarnTabWidget::setWidgetSize",
+            special<TarnTabWidget>("setWidgetSize",
                                    [](TarnTabWidget *tabs, Source source) {
                                        const QSize size = drawSize(source.dice);
                                        tabs->setWidgetSize(size.width(), size.height());
@@ -334,18 +365,27 @@ bool isBare(const TarnTabBar *bar)
 QVector<Call> tabSpecials()
 {
     return {
-        special<TarnTabBar>("TarnTabBar::insertTab",
+        special<TarnTabBar>("insertTab",
                             [](TarnTabBar *bar, Source source) {
                                 const int place = drawNumber(source.dice);
-                                if (isBare(bar))
+                                if (isBare(bar) && source.dice.oneIn(2))
                                     bar->insertTab(place, draw<QIcon>(source), drawText(source.dice));
+                                else if (isBare(bar))
+                                    bar->insertTab(place, drawText(source.dice));
                             }),
-        special<TarnTabBar>("TarnTabBar::removeTab",
+        special<TarnTabBar>("addTab",
+                            [](TarnTabBar *bar, Source source) {
+                                if (isBare(bar) && source.dice.oneIn(2))
+                                    bar->addTab(draw<QIcon>(source), drawText(source.dice));
+                                else if (isBare(bar))
+                                    bar->addTab(drawText(source.dice));
+                            }),
+        special<TarnTabBar>("removeTab",
                             [](TarnTabBar *bar, Source source) {
                                 if (isBare(bar))
                                     bar->removeTab(drawNumber(source.dice));
                             }),
-        special<TarnTabBar>("TarnTabBar::moveTab",
+        special<TarnTabBar>("moveTab",
                             [](TarnTabBar *bar, Source source) {
                                 const int from = drawNumber(source.dice);
                                 const int to = drawNumber(source.dice);
@@ -353,28 +393,29 @@ QVector<Call> tabSpecials()
                                     bar->moveTab(from, to);
                             }),
         special<TarnTabBar>(
-            "TarnTabBar::setTabMinWidth",
+            "setTabMinWidth",
             [](TarnTabBar *bar, Source source) { bar->setTabMinWidth(source.dice.between(0, 500)); }),
         special<TarnTabBar>(
-            "TarnTabBar::setTabMaxWidth",
+            "setTabMaxWidth",
             [](TarnTabBar *bar, Source source) { bar->setTabMaxWidth(source.dice.between(-1, 500)); }),
-        special<TarnTabBar>("TarnTabBar::set...HLayoutSpace",
+        special<TarnTabBar>("set...HLayoutSpace",
                             [](TarnTabBar *bar, Source source) {
                                 const int space = source.dice.between(-1, 60);
                                 bar->setLeftHLayoutSpace(space);
                                 bar->setRightHLayoutSpace(space);
                                 bar->setCenterHLayoutSpace(space);
                             }),
-        special<TabBarRd>("TabBarRd::setTabMinWidth",
+        special<TabBarRd>("setTabMinWidth",
                           [](TabBarRd *bar, Source source) { bar->setTabMinWidth(source.dice.below(400)); }),
-        special<TabBarRd>("TabBarRd::setTabMaxWidth",
+        special<TabBarRd>("setTabMaxWidth",
                           [](TabBarRd *bar, Source source) { bar->setTabMaxWidth(source.dice.below(400)); }),
-        special<TarnTabWidget>("TarnTabWidget::setTabMaxWidth",
-                               [](TarnTabWidget *tabs, Source source) {
-                                   tabs->setTabMinWidth(source.dice.below(100));
-                                   tabs->setTabMaxWidth(source.dice.below(400));
-                               }),
-        special<TarnTabWidget>("TarnTabWidget::insertTab",
+        special<TarnTabWidget>(
+            "setTabMinWidth",
+            [](TarnTabWidget *tabs, Source source) { tabs->setTabMinWidth(source.dice.below(100)); }),
+        special<TarnTabWidget>(
+            "setTabMaxWidth",
+            [](TarnTabWidget *tabs, Source source) { tabs->setTabMaxWidth(source.dice.below(400)); }),
+        special<TarnTabWidget>("insertTab",
                                [](TarnTabWidget *tabs, Source source) {
                                    const int place = drawNumber(source.dice);
                                    QWidget *page = drawWidget(source);
@@ -382,9 +423,17 @@ QVector<Call> tabSpecials()
                                        tabs->insertTab(place, page, draw<QIcon>(source),
                                                        drawText(source.dice));
                                    else
+                                       tabs->insertTab(place, page, drawText(source.dice));
+                               }),
+        special<TarnTabWidget>("addTab",
+                               [](TarnTabWidget *tabs, Source source) {
+                                   QWidget *page = drawWidget(source);
+                                   if (source.dice.oneIn(2))
+                                       tabs->addTab(page, draw<QIcon>(source), drawText(source.dice));
+                                   else
                                        tabs->addTab(page, drawText(source.dice));
                                }),
-        special<TarnTabWidget>("TarnTabWidget::setCurrentWidget",
+        special<TarnTabWidget>("setCurrentWidget",
                                [](TarnTabWidget *tabs, Source source) {
                                    tabs->setCurrentWidget(source.dice.oneIn(4)
                                                               ? drawWidget(source)
@@ -410,6 +459,24 @@ QAbstractButton *anyButton(FramelessMessageBox *box, Source source)
 QVector<Call> messageBoxCalls()
 {
     return {CALL(FramelessMessageBox, setText),
+            CALL(FramelessMessageBox, text),
+            CALL(FramelessMessageBox, icon),
+            CALL(FramelessMessageBox, iconPixmap),
+            CALL(FramelessMessageBox, textFormat),
+            CALL(FramelessMessageBox, textInteractionFlags),
+            CALL(FramelessMessageBox, informativeText),
+            CALL(FramelessMessageBox, detailedText),
+            CALL(FramelessMessageBox, checkBox),
+            CALL(FramelessMessageBox, standardButtons),
+            CALL(FramelessMessageBox, defaultButton),
+            CALL(FramelessMessageBox, escapeButton),
+            CALL(FramelessMessageBox, clickedButton),
+            special<FramelessMessageBox>("buttonRole",
+                                         [](FramelessMessageBox *box, Source source) {
+                                             QAbstractButton *button = anyButton(box, source);
+                                             look(box->button(box->standardButton(button)));
+                                             box->buttonRole(button);
+                                         }),
             CALL(FramelessMessageBox, setIcon),
             CALL(FramelessMessageBox, setIconPixmap),
             CALL(FramelessMessageBox, setTextFormat),
@@ -424,7 +491,7 @@ QVector<Call> messageBoxCalls()
             CALL_OVERLOAD(FramelessMessageBox, addButton, QMessageBox::StandardButton),
             CALL_OVERLOAD(FramelessMessageBox, setDefaultButton, QMessageBox::StandardButton),
             CALL_OVERLOAD(FramelessMessageBox, setEscapeButton, QMessageBox::StandardButton),
-            special<FramelessMessageBox>("FramelessMessageBox::addButton",
+            special<FramelessMessageBox>("addButton",
                                          [](FramelessMessageBox *box, Source source) {
                                              const auto role = draw<QMessageBox::ButtonRole>(source);
                                              if (source.dice.oneIn(4))
@@ -434,89 +501,29 @@ QVector<Call> messageBoxCalls()
                                              else
                                                  box->addButton(drawText(source.dice).left(40), role);
                                          }),
-            special<FramelessMessageBox>("FramelessMessageBox::removeButton",
+            special<FramelessMessageBox>("removeButton",
                                          [](FramelessMessageBox *box, Source source) {
                                              QAbstractButton *button = anyButton(box, source);
                                              box->removeButton(button);
                                              if (button)
                                                  button->deleteLater();
                                          }),
-            special<FramelessMessageBox>("FramelessMessageBox::setDefaultButton",
+            special<FramelessMessageBox>("setDefaultButton",
                                          [](FramelessMessageBox *box, Source source) {
                                              box->setDefaultButton(
                                                  qobject_cast<QPushButton *>(anyButton(box, source)));
                                              box->setEscapeButton(anyButton(box, source));
                                          }),
-            special<FramelessMessageBox>(
-                "FramelessMessageBox::setCheckBox", [](FramelessMessageBox *box, Source source) {
-                    box->setCheckBox(source.dice.oneIn(3) ? nullptr
-                                                          : new QCheckBox(drawText(source.dice).left(40)));
-                })};
-}
-
-QString drawPath(Source source)
-{
-    const QString name = source.dice.pick({QStringLiteral("@/root"), QStringLiteral("@/root/sub"),
-                                           QStringLiteral("@/root/sub/deep"), QStringLiteral("@/second"),
-                                           QStringLiteral("@/outside"), QStringLiteral("@/rootx"),
-                                           QStringLiteral("@/root/file.txt"), QStringLiteral("@/root/.."),
-                                           QStringLiteral("@/nothing"), QString()});
-    return source.stage.files().at(name);
-}
-
-template <typename Dialog> QVector<Call> fileDialogCalls()
-{
-    return {CALL(Dialog, setViewMode),
-            CALL(Dialog, setFileMode),
-            CALL(Dialog, setAcceptMode),
-            CALL(Dialog, setDefaultSuffix),
-            special<Dialog>("setDirectory",
-                            [](Dialog *dialog, Source source) { dialog->setDirectory(drawPath(source)); }),
-            special<Dialog>("selectFile",
-                            [](Dialog *dialog, Source source) { dialog->selectFile(drawPath(source)); }),
-            special<Dialog>(
-                "setNameFilters",
-                [](Dialog *dialog, Source source) {
-                    dialog->setNameFilters({QStringLiteral("Text (*.txt)"), drawText(source.dice).left(20)});
-                }),
-            special<Dialog>("setHistory",
-                            [](Dialog *dialog, Source source) {
-                                dialog->setHistory({drawPath(source), drawPath(source)});
-                            }),
-            special<Dialog>("selectedFiles", [](Dialog *dialog, Source) {
-                dialog->selectedFiles();
-                dialog->selectedUrls();
+            special<FramelessMessageBox>("setCheckBox", [](FramelessMessageBox *box, Source source) {
+                box->setCheckBox(source.dice.oneIn(3) ? nullptr
+                                                      : new QCheckBox(drawText(source.dice).left(40)));
             })};
-}
-
-QVector<Call> limitedFileDialogCalls()
-{
-    return {special<LimitedFileDialog>(
-                "LimitedFileDialog::setLimitedPath",
-                [](LimitedFileDialog *dialog, Source source) { dialog->setLimitedPath(drawPath(source)); }),
-            special<LimitedFileDialog>(
-                "LimitedFileDialog::setLimitedPath1",
-                [](LimitedFileDialog *dialog, Source source) { dialog->setLimitedPath1(drawPath(source)); }),
-            special<LimitedFileDialog>("LimitedFileDialog::pathFits",
-                                       [](LimitedFileDialog *dialog, Source source) {
-                                           dialog->pathFits(drawPath(source));
-                                           dialog->isShowInComboBox(drawPath(source));
-                                       }),
-            CALL(LimitedFileDialog, setStrict),
-            CALL(LimitedFileDialog, checkGoToParent),
-            CALL(LimitedFileDialog, checkLineEdit),
-            CALL(LimitedFileDialog, checkComboBox),
-            CALL(LimitedFileDialog, setHistoryPath),
-            CALL(LimitedFileDialog, checkHistory),
-            CALL(LimitedFileDialog, initFileDialog),
-            CALL(ColorDialog, setInitColor)};
 }
 
 QVector<Call> allCalls()
 {
-    return titleBarCalls() + dialogCalls() + windowCalls() + helperCalls() + buttonAndLineCalls() + tabCalls()
-        + tabSpecials() + messageBoxCalls() + fileDialogCalls<LimitedFileDialog>()
-        + fileDialogCalls<FramelessFileDialog>() + limitedFileDialogCalls();
+    return titleBarCalls() + dialogCalls() + windowCalls() + helperCalls() + addressCalls()
+        + buttonAndLineCalls() + tabCalls() + tabSpecials() + messageBoxCalls() + fileDialogCalls();
 }
 
 const QVector<Call> &table()
@@ -547,7 +554,7 @@ bool isLeftAlone(const QObject *object, const char *name)
     // These would let the user change files; see Stage::eventFilter().
     static const QByteArray inFileDialogs[] = {"options", "readOnly"};
     // The gallery's content is its own, and so is what becomes of it.
-    if (QByteArray(name).endsWith("::setCentralWidget") && object->inherits("Gallery::MainWindow"))
+    if (QByteArray(name).startsWith("setCentralWidget") && object->inherits("Gallery::MainWindow"))
         return true;
     for (const QByteArray &candidate : anywhere) {
         if (candidate == name)
@@ -560,27 +567,114 @@ bool isLeftAlone(const QObject *object, const char *name)
     return false;
 }
 
+QByteArray nameIn(const QMetaObject *owner, const QByteArray &name)
+{
+    const QByteArray scope = owner->className();
+    return scope.mid(scope.lastIndexOf(':') + 1) + "::" + name;
+}
+
+QByteArray nameOf(const Call &call)
+{
+    return "call " + nameIn(call.owner, call.name);
+}
+
+QByteArray nameOf(const QMetaProperty &property)
+{
+    return "property " + nameIn(property.enclosingMetaObject(), property.name());
+}
+
+QByteArray nameOf(const QMetaMethod &method)
+{
+    return "slot " + nameIn(method.enclosingMetaObject(), method.methodSignature());
+}
+
+// Half of what the storm may pick is Qt's own.
+QObject *pickCallable(Context &c)
+{
+    constexpr int MostTries = 8;
+    for (int tries = 0; tries < MostTries; ++tries) {
+        QObject *object = pickSubject(c);
+        if (object && hasCalls(object))
+            return object;
+    }
+    return nullptr;
+}
+
+// The classes whose functions are in the table, of which object is one.
+QVector<const QMetaObject *> ourClasses(const QObject *object)
+{
+    QVector<const QMetaObject *> found;
+    for (const int place : callsOf(object)) {
+        if (!found.contains(table().at(place).owner))
+            found.append(table().at(place).owner);
+    }
+    return found;
+}
+
+// A property or method, most often one of ours.
+using Member = int (QMetaObject::*)() const;
+
+template <typename Fits>
+int pickMember(Context &c, const QObject *object, Member offset, Member count, Fits fits)
+{
+    constexpr int MostTries = 8;
+    const QVector<const QMetaObject *> ours = ourClasses(object);
+    const bool isAny = ours.isEmpty() || c.dice.oneIn(4);
+    int place = 0;
+    for (int tries = 0; tries < MostTries; ++tries) {
+        const QMetaObject *meta = isAny ? object->metaObject() : c.dice.pickOf(ours);
+        const int first = isAny ? 0 : (meta->*offset)();
+        place = first + c.dice.below((meta->*count)() - first);
+        if (fits(place))
+            break;
+    }
+    return place;
+}
+
 void callOurs(Context &c)
 {
-    QObject *object = pickSubject(c);
+    QObject *object = pickCallable(c);
     if (!object)
         return;
     const QVector<int> &candidates = callsOf(object);
-    if (candidates.isEmpty())
-        return;
     const Call &chosen = table().at(c.dice.pickOf(candidates));
-    c.notes.about(object, QString::fromLatin1(chosen.name));
-    if (!isLeftAlone(object, chosen.name))
-        chosen.run(object, c.source());
+    c.notes.about(object, QString::fromLatin1(nameOf(chosen)));
+    if (isLeftAlone(object, chosen.name))
+        return;
+    tally(nameOf(chosen));
+    chosen.run(object, c.source());
+}
+
+// Those that the storm leaves to its other acts apart.
+bool isWorthCalling(const QMetaMethod &method)
+{
+    static const QByteArray elsewhere[] = {"deleteLater", "exec", "open"};
+    return method.methodType() == QMetaMethod::Slot && method.access() == QMetaMethod::Public
+        && std::find(std::begin(elsewhere), std::end(elsewhere), method.name()) == std::end(elsewhere);
+}
+
+void expectFrom(const QMetaObject *meta)
+{
+    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i) {
+        if (meta->property(i).isWritable())
+            expectInTally(nameOf(meta->property(i)));
+    }
+    for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
+        if (isWorthCalling(meta->method(i)))
+            expectInTally(nameOf(meta->method(i)));
+    }
 }
 
 void writeProperty(Context &c)
 {
-    QObject *object = pickSubject(c);
+    QObject *object = c.dice.oneIn(4) ? pickSubject(c) : pickCallable(c);
     if (!object)
         return;
     const QMetaObject *meta = object->metaObject();
-    const QMetaProperty property = meta->property(c.dice.below(meta->propertyCount()));
+    const QMetaProperty property = meta->property(
+        pickMember(c, object, &QMetaObject::propertyOffset, &QMetaObject::propertyCount, [meta](int place) {
+            return place < meta->propertyCount() && meta->property(place).isWritable();
+        }));
     if (!property.isWritable() || isLeftAlone(object, property.name()))
         return;
     QVariant value;
@@ -599,16 +693,20 @@ void writeProperty(Context &c)
     if (c.notes.wanted)
         c.notes.about(
             object, QStringLiteral("%1 = %2").arg(QLatin1String(property.name()), value.toString().left(60)));
+    tally(nameOf(property));
     property.write(object, value);
 }
 
 void invokeSlot(Context &c)
 {
-    QObject *object = pickSubject(c);
+    QObject *object = c.dice.oneIn(4) ? pickSubject(c) : pickCallable(c);
     if (!object)
         return;
     const QMetaObject *meta = object->metaObject();
-    const QMetaMethod method = meta->method(c.dice.below(meta->methodCount()));
+    const QMetaMethod method = meta->method(
+        pickMember(c, object, &QMetaObject::methodOffset, &QMetaObject::methodCount, [meta](int place) {
+            return place < meta->methodCount() && isWorthCalling(meta->method(place));
+        }));
     if (method.methodType() != QMetaMethod::Slot || method.access() != QMetaMethod::Public
         || isLeftAlone(object, method.name().constData()))
         return;
@@ -624,10 +722,19 @@ void invokeSlot(Context &c)
     }
     if (c.notes.wanted)
         c.notes.about(object, QString::fromLatin1(method.methodSignature()));
+    tally(nameOf(method));
     method.invoke(object, Qt::DirectConnection, arguments[0], arguments[1], arguments[2]);
 }
 
 } // namespace
+
+void expectCalls()
+{
+    for (const Call &call : table()) {
+        expectInTally(nameOf(call));
+        expectFrom(call.owner);
+    }
+}
 
 bool hasCalls(const QObject *object)
 {
@@ -636,9 +743,9 @@ bool hasCalls(const QObject *object)
 
 QVector<Kind> callKinds()
 {
-    return {{"call", 120, callOurs, false},
-            {"property", 40, writeProperty, false},
-            {"slot", 40, invokeSlot, false}};
+    return {{"call", 300, callOurs, false},
+            {"property", 90, writeProperty, false},
+            {"slot", 90, invokeSlot, false}};
 }
 
 } // namespace Tarn::Storm

@@ -5,13 +5,19 @@
 
 #include "acts.h"
 #include "support/testdialog.h"
+#include "tally.h"
 
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QPainter>
 #include <QPixmap>
 #include <QStyle>
+#include <QStyleFactory>
+#include <QTranslator>
+#include <memory>
 #include <tarnwidgets/qssloader.h>
 
 namespace Tarn::Storm {
@@ -114,10 +120,35 @@ void enabled(Context &c)
     }
 }
 
+#ifdef TARN_TRANSLATIONS_DIR
+// As programs have it, the library's texts and those of Qt.
+void realLanguage(Context &c)
+{
+    const QLocale locale(c.dice.pick({QLocale::Chinese, QLocale::English}));
+    for (const char *catalogue : {"tarnwidgets", "qtbase"}) {
+        const bool isQts = qstrcmp(catalogue, "qtbase") == 0;
+        const auto translator = std::make_shared<QTranslator>();
+        if (translator->load(locale, QLatin1String(catalogue), QStringLiteral("_"),
+                             isQts ? QLibraryInfo::location(QLibraryInfo::TranslationsPath)
+                                   : QStringLiteral(TARN_TRANSLATIONS_DIR))) {
+            tally("translation " + QByteArray(catalogue) + ' ' + locale.name().toLatin1());
+            QCoreApplication::installTranslator(translator.get());
+            c.stage.keep(translator);
+        }
+    }
+}
+#endif
+
 // Language changes with a translator put in and taken out.
 void language(Context &c)
 {
     c.notes.about(qApp);
+#ifdef TARN_TRANSLATIONS_DIR
+    if (c.dice.oneIn(2)) {
+        realLanguage(c);
+        return;
+    }
+#endif
     const char *context = c.dice.pick({"Tarn::Widgets::FramelessDialog", "Tarn::Widgets::TitleBar",
                                        "Tarn::Widgets::ColorDialog", "Tarn::Widgets::FramelessMessageBox"});
     if (c.dice.oneIn(2))
@@ -146,7 +177,7 @@ void look(Context &c)
     if (!widget)
         return;
     c.notes.about(widget);
-    switch (c.dice.below(7)) {
+    switch (c.dice.below(8)) {
     case 0:
         widget->setFont(drawFont(c.dice));
         break;
@@ -165,6 +196,13 @@ void look(Context &c)
     case 5:
         widget->setCursor(Qt::CursorShape(c.dice.below(Qt::LastCursor + 1)));
         break;
+    case 6: {
+        const std::shared_ptr<QStyle> style(
+            QStyleFactory::create(c.dice.pickOf(QStyleFactory::keys().toVector())));
+        c.stage.keep(style);
+        widget->setStyle(style.get());
+        break;
+    }
     default:
         widget->setFocusPolicy(c.dice.pick({Qt::NoFocus, Qt::TabFocus, Qt::ClickFocus, Qt::StrongFocus}));
         break;
@@ -174,10 +212,20 @@ void look(Context &c)
 void applicationLook(Context &c)
 {
     c.notes.about(qApp);
-    if (c.dice.oneIn(2))
+    switch (c.dice.below(4)) {
+    case 0:
         QApplication::setLayoutDirection(c.dice.pick({Qt::LeftToRight, Qt::RightToLeft}));
-    else
+        break;
+    case 1:
+        QApplication::setPalette(c.dice.oneIn(3) ? QPalette() : QPalette(drawColor(c.dice)));
+        break;
+    case 2:
+        QApplication::setStyle(c.dice.pickOf(QStyleFactory::keys().toVector()));
+        break;
+    default:
         QApplication::setFont(drawFont(c.dice));
+        break;
+    }
 }
 
 void paint(Context &c)
@@ -238,9 +286,9 @@ QVector<Kind> changeKinds()
             {"window state", 15, windowState, false},
             {"enabled", 10, enabled, false},
             {"language", 3, language, false},
-            {"application style sheet", 1, applicationStyleSheet, false},
+            {"application style sheet", 2, applicationStyleSheet, false},
             {"look", 20, look, false},
-            {"application look", 1, applicationLook, false},
+            {"application look", 2, applicationLook, false},
             {"paint", 20, paint, false},
             {"picture", 8, picture, false},
             {"reparent", 2, reparent, false},

@@ -3,9 +3,11 @@
 
 // A storm of random events over all widgets and all pages of the gallery; see README.md.
 
+#include "acts.h"
 #include "oracle.h"
 #include "scenes.h"
 #include "storm.h"
+#include "tally.h"
 #include "trail.h"
 
 #include <QApplication>
@@ -94,11 +96,14 @@ int runAll(const QString &only, const Course &course, Trail &trail)
         std::fprintf(stderr, "There is no scene %s\n", qPrintable(only));
         return 2;
     }
+    int weight = 0;
+    for (const Scene &scene : qAsConst(chosen))
+        weight += scene.weight;
     QElapsedTimer total;
     total.start();
     for (const Scene &scene : qAsConst(chosen)) {
         Course part = course;
-        part.steps = qMax(1, course.steps / int(chosen.size()));
+        part.steps = qMax(1, course.steps / weight * scene.weight);
         QElapsedTimer clock;
         clock.start();
         std::printf("%-24s ", qPrintable(scene.name));
@@ -136,6 +141,8 @@ int main(int argc, char *argv[])
     add("replay", "Only the steps that a file lists, each printed.", "file");
     add("tell", "Prints each step.");
     add("trail", "Where to keep the place, for when the program dies.", "file");
+    add("tally", "Prints how often each thing was done.");
+    add("reach", "Fails if there is anything that was never done.");
     add("list", "Prints the scenes.");
     parser.process(app);
 
@@ -156,8 +163,19 @@ int main(int argc, char *argv[])
         std::fprintf(stderr, "%s cannot be read\n", qPrintable(value("replay")));
         return 2;
     }
-    std::printf("TARN_TEST_SEED=%llu\n", course.seed);
+    // First of all, for whoever finds nothing else in a log but a crash.
+    std::printf(
+        "TARN_TEST_SEED=%llu; a failure comes again, and shorter, by: scripts/storm --seed %llu --scene "
+        "THE_LAST_ONE_BELOW\n",
+        course.seed, course.seed);
     Trail trail(parser.isSet(QStringLiteral("trail")) ? start.filePath(value("trail")) : QString());
     watchLog();
-    return runAll(scene, course, trail);
+    expectCalls();
+    expectModals();
+    const int status = runAll(scene, course, trail);
+    if (parser.isSet(QStringLiteral("tally")))
+        printTally();
+    if (parser.isSet(QStringLiteral("reach")) && status == 0)
+        return printMissing() > 0 ? 4 : 0;
+    return status;
 }

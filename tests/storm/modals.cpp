@@ -4,11 +4,13 @@
 // What runs an event loop of its own. The storm goes on inside, see Storm::pump().
 
 #include "acts.h"
+#include "tally.h"
 
 #include <QApplication>
 #include <QDialog>
 #include <QDrag>
 #include <QTest>
+#include <QUrl>
 #include <tarnwidgets/colordialog.h>
 #include <tarnwidgets/framelessfiledialog.h>
 #include <tarnwidgets/framelessmessagebox.h>
@@ -52,90 +54,176 @@ void execute(Context &c)
     s_running.removeLast();
 }
 
-void askMessageBox(Context &c)
+// What the one-call functions are asked with.
+struct Wish
+{
+    QWidget *parent;
+    QString title;
+    QString text;
+    QMessageBox::StandardButtons buttons;
+    QMessageBox::StandardButton preferred;
+    bool isClosable;
+    QColor color;
+    QString root;
+    QString second;
+    QUrl url;
+};
+
+struct Request
+{
+    const char *name;
+    void (*ask)(const Wish &wish);
+};
+
+char s_property[] = "isStormy";
+
+constexpr Request MessageBoxes[] = {
+    {"FramelessMessageBox::information",
+     [](const Wish &w) {
+         FramelessMessageBox::information(w.parent, w.title, w.text, w.buttons, w.preferred);
+     }},
+    {"FramelessMessageBox::question",
+     [](const Wish &w) { FramelessMessageBox::question(w.parent, w.title, w.text, w.buttons, w.preferred); }},
+    {"FramelessMessageBox::warning",
+     [](const Wish &w) { FramelessMessageBox::warning(w.parent, w.title, w.text, w.buttons, w.preferred); }},
+    {"FramelessMessageBox::critical",
+     [](const Wish &w) { FramelessMessageBox::critical(w.parent, w.title, w.text, w.buttons, w.preferred); }},
+    {"FramelessMessageBox::information with a property",
+     [](const Wish &w) {
+         FramelessMessageBox::information(w.parent, w.title, w.text, s_property, true, w.buttons, w.preferred,
+                                          w.isClosable);
+     }},
+    {"FramelessMessageBox::question with a property",
+     [](const Wish &w) {
+         FramelessMessageBox::question(w.parent, w.title, w.text, nullptr, true, w.buttons, w.preferred,
+                                       w.isClosable);
+     }},
+    {"FramelessMessageBox::warning with a property",
+     [](const Wish &w) {
+         FramelessMessageBox::warning(w.parent, w.title, w.text, s_property, false, w.buttons, w.preferred,
+                                      w.isClosable);
+     }},
+    {"FramelessMessageBox::critical with a property",
+     [](const Wish &w) {
+         FramelessMessageBox::critical(w.parent, w.title, w.text, s_property, true, w.buttons, w.preferred,
+                                       w.isClosable);
+     }},
+    {"FramelessMessageBox::about",
+     [](const Wish &w) { FramelessMessageBox::about(w.parent, w.title, w.text); }},
+    {"FramelessMessageBox::aboutQt", [](const Wish &w) { FramelessMessageBox::aboutQt(w.parent, w.title); }},
+};
+
+constexpr Request ColorDialogs[] = {
+    {"ColorDialog::getColor", [](const Wish &w) { ColorDialog::getColor(w.color, w.parent); }},
+};
+
+constexpr Request LimitedDialogs[] = {
+    {"LimitedFileDialog::getExistingDirectoryFromDlg",
+     [](const Wish &w) {
+         LimitedFileDialog::getExistingDirectoryFromDlg(w.parent, QString(), w.root, QFileDialog::ReadOnly,
+                                                        w.root, w.second);
+     }},
+    {"LimitedFileDialog::getOpenFileNamesFromDlg",
+     [](const Wish &w) {
+         LimitedFileDialog::getOpenFileNamesFromDlg(w.parent, QString(), w.root, QString(), w.root, w.second,
+                                                    nullptr, QFileDialog::ReadOnly);
+     }},
+    {"LimitedFileDialog::getSaveFileNameFromDlg",
+     [](const Wish &w) {
+         LimitedFileDialog::getSaveFileNameFromDlg(w.parent, QString(), w.root, QString(), w.root, w.second,
+                                                   nullptr, QFileDialog::ReadOnly);
+     }},
+};
+
+// Without a parent such a dialog stays until the program ends.
+constexpr Request FramelessDialogs[] = {
+    {"FramelessFileDialog::getOpenFileName",
+     [](const Wish &w) {
+         QString filter = w.isClosable ? QString() : QStringLiteral("Text (*.txt)");
+         FramelessFileDialog::getOpenFileName(w.parent, w.title, w.root, QString(), &filter,
+                                              QFileDialog::ReadOnly);
+     }},
+    {"FramelessFileDialog::getOpenFileNames",
+     [](const Wish &w) {
+         FramelessFileDialog::getOpenFileNames(w.parent, w.title, w.root, QString(), nullptr,
+                                               QFileDialog::ReadOnly);
+     }},
+    {"FramelessFileDialog::getSaveFileName",
+     [](const Wish &w) {
+         FramelessFileDialog::getSaveFileName(w.parent, w.title, w.root, QString(), nullptr,
+                                              QFileDialog::ReadOnly);
+     }},
+    {"FramelessFileDialog::getExistingDirectory",
+     [](const Wish &w) {
+         FramelessFileDialog::getExistingDirectory(w.parent, w.title, w.root, QFileDialog::ReadOnly);
+     }},
+    {"FramelessFileDialog::getOpenFileUrl",
+     [](const Wish &w) {
+         FramelessFileDialog::getOpenFileUrl(w.parent, w.title, w.url, QString(), nullptr,
+                                             QFileDialog::ReadOnly);
+     }},
+    {"FramelessFileDialog::getOpenFileUrls",
+     [](const Wish &w) {
+         FramelessFileDialog::getOpenFileUrls(w.parent, w.title, w.url, QString(), nullptr,
+                                              QFileDialog::ReadOnly);
+     }},
+    {"FramelessFileDialog::getSaveFileUrl",
+     [](const Wish &w) {
+         FramelessFileDialog::getSaveFileUrl(w.parent, w.title, w.url, QString(), nullptr,
+                                             QFileDialog::ReadOnly);
+     }},
+    {"FramelessFileDialog::getExistingDirectoryUrl",
+     [](const Wish &w) {
+         FramelessFileDialog::getExistingDirectoryUrl(w.parent, w.title, w.url, QFileDialog::ReadOnly);
+     }},
+};
+
+QByteArray nameOf(const Request &request)
+{
+    return QByteArray("modal ") + request.name;
+}
+
+template <std::size_t Count> void ask(Context &c, const Request (&requests)[Count], bool needsParent)
 {
     QWidget *parent = drawParent(c);
-    const QString title = drawText(c.dice).left(40);
-    const QString text = drawText(c.dice);
-    const auto buttons = draw<QMessageBox::StandardButtons>(c.source());
-    const auto preferred = draw<QMessageBox::StandardButton>(c.source());
-    c.notes.about(parent);
-    char property[] = "isStormy";
-    switch (c.dice.below(7)) {
-    case 0:
-        FramelessMessageBox::information(parent, title, text, buttons, preferred);
-        break;
-    case 1:
-        FramelessMessageBox::question(parent, title, text, buttons, preferred);
-        break;
-    case 2:
-        FramelessMessageBox::warning(parent, title, text, property, true, buttons, preferred, false);
-        break;
-    case 3:
-        FramelessMessageBox::critical(parent, title, text, nullptr, true, buttons, preferred);
-        break;
-    case 4:
-        FramelessMessageBox::about(parent, title, text);
-        break;
-    case 5:
-        FramelessMessageBox::aboutQt(parent, title);
-        break;
-    default:
-        FramelessMessageBox::critical(parent, title, text);
-        break;
-    }
+    if (needsParent && !parent)
+        return;
+    const QString root = c.stage.files().root();
+    const QString second = c.dice.oneIn(2) ? c.stage.files().second() : QString();
+    const Wish wish = {parent,
+                       drawText(c.dice).left(40),
+                       drawText(c.dice),
+                       draw<QMessageBox::StandardButtons>(c.source()),
+                       draw<QMessageBox::StandardButton>(c.source()),
+                       c.dice.oneIn(2),
+                       drawColor(c.dice),
+                       root,
+                       second,
+                       c.dice.oneIn(3) ? QUrl() : QUrl::fromLocalFile(root)};
+    const Request &request = requests[c.dice.below(Count)];
+    c.notes.about(parent, QString::fromLatin1(request.name));
+    tally(nameOf(request));
+    request.ask(wish);
+}
+
+void askMessageBox(Context &c)
+{
+    ask(c, MessageBoxes, false);
 }
 
 void askColor(Context &c)
 {
-    QWidget *parent = drawParent(c);
-    c.notes.about(parent);
-    ColorDialog::getColor(drawColor(c.dice), parent);
+    ask(c, ColorDialogs, false);
 }
 
 void askLimited(Context &c)
 {
-    QWidget *parent = drawParent(c);
-    const QString root = c.stage.files().root();
-    const QString second = c.dice.oneIn(2) ? c.stage.files().second() : QString();
-    c.notes.about(parent);
-    switch (c.dice.below(3)) {
-    case 0:
-        LimitedFileDialog::getExistingDirectoryFromDlg(parent, QString(), root, QFileDialog::ReadOnly, root,
-                                                       second);
-        break;
-    case 1:
-        LimitedFileDialog::getOpenFileNamesFromDlg(parent, QString(), root, QString(), root, second, nullptr,
-                                                   QFileDialog::ReadOnly);
-        break;
-    default:
-        LimitedFileDialog::getSaveFileNameFromDlg(parent, QString(), root, QString(), root, second, nullptr,
-                                                  QFileDialog::ReadOnly);
-        break;
-    }
+    ask(c, LimitedDialogs, false);
 }
 
-// Without a parent such a dialog stays until the program ends.
 void askFrameless(Context &c)
 {
-    QWidget *parent = drawParent(c);
-    if (!parent)
-        return;
-    const QString root = c.stage.files().root();
-    c.notes.about(parent);
-    switch (c.dice.below(3)) {
-    case 0:
-        FramelessFileDialog::getExistingDirectory(parent, QString(), root, QFileDialog::ReadOnly);
-        break;
-    case 1:
-        FramelessFileDialog::getOpenFileNames(parent, QString(), root, QString(), nullptr,
-                                              QFileDialog::ReadOnly);
-        break;
-    default:
-        FramelessFileDialog::getSaveFileName(parent, QString(), root, QString(), nullptr,
-                                             QFileDialog::ReadOnly);
-        break;
-    }
+    ask(c, FramelessDialogs, true);
 }
 
 void endDialog(QDialog *dialog, Dice &dice, bool mayDelete)
@@ -196,13 +284,25 @@ void endInnermostLoop(Stage &stage, Dice &dice, bool mayDelete)
     QDrag::cancel();
 }
 
+void expectModals()
+{
+    for (const Request &request : MessageBoxes)
+        expectInTally(nameOf(request));
+    for (const Request &request : ColorDialogs)
+        expectInTally(nameOf(request));
+    for (const Request &request : LimitedDialogs)
+        expectInTally(nameOf(request));
+    for (const Request &request : FramelessDialogs)
+        expectInTally(nameOf(request));
+}
+
 QVector<Kind> modalKinds()
 {
     return {{"exec", 8, execute, true},
-            {"message box", 2, askMessageBox, true},
+            {"message box", 4, askMessageBox, true},
             {"color dialog", 1, askColor, true},
-            {"limited file dialog", 1, askLimited, true},
-            {"frameless file dialog", 1, askFrameless, true}};
+            {"limited file dialog", 2, askLimited, true},
+            {"frameless file dialog", 3, askFrameless, true}};
 }
 
 } // namespace Tarn::Storm

@@ -5,9 +5,18 @@
 
 #include "support/leftovers.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QFileInfo>
+#include <QFrame>
+#include <QLayout>
 #include <QStackedWidget>
+#include <QVBoxLayout>
+#include <tarnwidgets/colordialog.h>
+#include <tarnwidgets/colorshower.h>
+#include <tarnwidgets/framelessdialog.h>
+#include <tarnwidgets/framelessmessagebox.h>
+#include <tarnwidgets/framelesswindow.h>
 #include <tarnwidgets/iplineedit.h>
 #include <tarnwidgets/limitedfiledialog.h>
 #include <tarnwidgets/tarntabbar.h>
@@ -42,6 +51,8 @@ constexpr Sanction Sanctions[] = {
     {"QBasicTimer::start: Timers cannot have negative timeouts", "a button's autoRepeatDelay is drawn, too"},
     {"does not contain a '[*]' placeholder", "so is a window's windowModified"},
     {"QDialogButtonBox::addButton: Invalid ButtonRole", "roles out of range are drawn on purpose"},
+    {"Non-native QFileDialog supports only local files", "an address of another kind is drawn on purpose"},
+    {"QSortFilterProxyModel: index from wrong model", "QFileDialog, about each proxy model that it gets"},
     {"FileDialog::slot_", "FramelessFileDialog says what the user has chosen"},
 };
 
@@ -73,12 +84,168 @@ QString promisesOf(const TarnTabBar *bar)
     return {};
 }
 
-QString promisesOf(const IPLineEdit *edit)
+// Listens to an editor from the first look at it.
+class AddressWitness : public QObject
 {
+public:
+    explicit AddressWitness(IPLineEdit *edit)
+        : QObject(edit)
+        , m_known(edit->text())
+    {
+        connect(edit, &IPLineEdit::addressChanged, this, [this, edit](const QString &address) {
+            if (address != edit->text() || address == m_known)
+                m_lie = QStringLiteral("IPLineEdit announced %1 after %2, and has %3")
+                            .arg(address, m_known, edit->text());
+            m_known = address;
+        });
+    }
+
+    QString m_known;
+    QString m_lie;
+};
+
+constexpr auto WitnessName = "stormWitness";
+
+QString announcementsOf(IPLineEdit *edit)
+{
+    const auto *witness = edit->findChild<AddressWitness *>(QLatin1String(WitnessName));
+    if (!witness) {
+        (new AddressWitness(edit))->setObjectName(QLatin1String(WitnessName));
+        return {};
+    }
+    if (witness->m_lie.isNull() && witness->m_known != edit->text())
+        return QStringLiteral("IPLineEdit has %1 and announced %2").arg(edit->text(), witness->m_known);
+    return witness->m_lie;
+}
+
+QString promisesOf(IPLineEdit *edit)
+{
+    constexpr int FieldCount = 4;
+    constexpr int MaxDigits = 3;
     const QString text = edit->text();
-    if (text.count(QLatin1Char('.')) != 3 || text.size() > 15)
-        return QStringLiteral("IPLineEdit's text is no address: %1").arg(text);
+    QStringList parts;
+    const QList<QLineEdit *> fields = edit->findChildren<QLineEdit *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QLineEdit *field : fields) {
+        if (edit->getIndex(field) != parts.size() || field->text().size() > MaxDigits)
+            return QStringLiteral("IPLineEdit's field %1 has %2").arg(parts.size()).arg(field->text());
+        parts.append(field->text());
+    }
+    if (parts.size() != FieldCount || parts.join(QLatin1Char('.')) != text)
+        return QStringLiteral("IPLineEdit's text is not that of its fields: %1").arg(text);
+    const bool isAccepted = edit->hasAcceptableInput();
+    const bool isValid = edit->isTextValid(text);
+    if (isAccepted != isValid && (isAccepted || edit->acceptsAnyAddress()))
+        return QStringLiteral("IPLineEdit accepts %1: %2, and calls it valid: %3")
+            .arg(text)
+            .arg(isAccepted)
+            .arg(isValid);
+    return announcementsOf(edit);
+}
+
+QString promisesOf(const ColorDialog *dialog)
+{
+    const auto *shower = dialog->findChild<ColorShower *>();
+    if (!shower)
+        return QStringLiteral("ColorDialog has lost its editors");
+    const QColor color = shower->currentQColor();
+    if (!color.isValid() || (color.rgb() & RGB_MASK) != (shower->currentColor() & RGB_MASK))
+        return QStringLiteral("ColorDialog's colour %1 is not the one it shows, %2")
+            .arg(color.isValid() ? color.name() : QStringLiteral("(invalid)"))
+            .arg(shower->currentColor(), 0, 16);
     return {};
+}
+
+bool isOneOf(const FramelessMessageBox *box, QAbstractButton *button)
+{
+    return !button || box->buttons().contains(button);
+}
+
+QString promisesOf(const FramelessMessageBox *box)
+{
+    if (!isOneOf(box, box->defaultButton()) || !isOneOf(box, box->escapeButton()))
+        return QStringLiteral("FramelessMessageBox's default or escape button is none of its buttons");
+    const QList<QAbstractButton *> buttons = box->buttons();
+    QMessageBox::StandardButtons standard;
+    for (QAbstractButton *button : buttons)
+        standard |= box->standardButton(button);
+    if (standard != box->standardButtons())
+        return QStringLiteral("FramelessMessageBox's standard buttons are not those that it has");
+    return {};
+}
+
+// Where the room suffices: a window that was made too small for its content has nowhere to put it.
+bool hasRoom(const QLayout *layout, const QSize &size)
+{
+    const QSize least = layout->minimumSize();
+    const int height = layout->hasHeightForWidth()
+        ? qMax(least.height(), layout->minimumHeightForWidth(size.width()))
+        : least.height();
+    return size.width() >= least.width() && size.height() >= height;
+}
+
+// Anew, since widgets may have been moved out of their places.
+void layOut(QLayout *layout)
+{
+    layout->invalidate();
+    layout->activate();
+}
+
+// The layout goes by the greatest size then, and the widget by the least.
+bool isContradictory(const QWidget *widget)
+{
+    return widget->minimumWidth() > widget->maximumWidth()
+        || widget->minimumHeight() > widget->maximumHeight();
+}
+
+// All that is in \a layout and to be seen, layouts in it included.
+QString whatLeaves(QLayout *layout, const QRect &room)
+{
+    for (int i = 0; i < layout->count(); ++i) {
+        QLayoutItem *item = layout->itemAt(i);
+        if (item->isEmpty() || (item->widget() && isContradictory(item->widget())))
+            continue;
+        const QRect place = item->widget() ? item->widget()->geometry() : item->geometry();
+        if (!item->spacerItem() && !room.contains(place))
+            return item->widget() ? QLatin1String(item->widget()->metaObject()->className())
+                                  : QLatin1String("QLayout");
+        if (QLayout *inner = item->layout()) {
+            const QString found = whatLeaves(inner, room);
+            if (!found.isNull())
+                return found;
+        }
+    }
+    return {};
+}
+
+QString promisesOf(const FramelessDialog *dialog)
+{
+    QLayout *layout = dialog->getMainLayout();
+    if (!dialog->isVisible() || !layout)
+        return {};
+    layOut(layout);
+    if (!hasRoom(layout, dialog->size()))
+        return {};
+    const QString found = whatLeaves(layout, dialog->rect().adjusted(1, 1, -1, -1));
+    return found.isNull() ? QString()
+                          : QStringLiteral("%1 covers the border of %2, %3 x %4")
+                                .arg(found, QLatin1String(dialog->metaObject()->className()))
+                                .arg(dialog->width())
+                                .arg(dialog->height());
+}
+
+// The border is the style sheet's, on the frame around title bar and content.
+QString promisesOf(const FramelessWindow *window)
+{
+    const QWidget *content = window->centralWidget();
+    auto *frame = content ? qobject_cast<QFrame *>(content->parentWidget()) : nullptr;
+    if (!window->isVisible() || !frame || !frame->layout()
+        || !frame->property("isFramelessCentralWidget").toBool())
+        return {};
+    layOut(frame->layout());
+    if (!hasRoom(frame->layout(), frame->size()))
+        return {};
+    const QString found = whatLeaves(frame->layout(), frame->contentsRect());
+    return found.isNull() ? QString() : QStringLiteral("%1 covers the border of FramelessWindow").arg(found);
 }
 
 QString promisesOf(const LimitedFileDialog *dialog)
@@ -90,9 +257,9 @@ QString promisesOf(const LimitedFileDialog *dialog)
                                    : QStringLiteral("a strict LimitedFileDialog shows %1").arg(shown);
 }
 
-template <typename Class> QString ask(const QObject *object)
+template <typename Class> QString ask(QObject *object)
 {
-    const auto *subject = qobject_cast<const Class *>(object);
+    auto *subject = qobject_cast<Class *>(object);
     return subject ? promisesOf(subject) : QString();
 }
 
@@ -113,9 +280,10 @@ QString unexpectedMessage()
 QString brokenPromise(Stage &stage)
 {
     const QVector<QObject *> all = stage.objects();
-    for (const QObject *object : all) {
+    for (QObject *object : all) {
         for (const auto asked :
-             {ask<TarnTabWidget>, ask<TarnTabBar>, ask<IPLineEdit>, ask<LimitedFileDialog>}) {
+             {ask<TarnTabWidget>, ask<TarnTabBar>, ask<IPLineEdit>, ask<LimitedFileDialog>, ask<ColorDialog>,
+              ask<FramelessMessageBox>, ask<FramelessDialog>, ask<FramelessWindow>}) {
             const QString broken = asked(object);
             if (!broken.isNull())
                 return broken;

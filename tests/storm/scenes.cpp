@@ -3,6 +3,8 @@
 
 #include "scenes.h"
 
+#include "values.h"
+
 #include <QApplication>
 #include <QDialog>
 #include <QHBoxLayout>
@@ -35,6 +37,8 @@ using namespace Tarn::Widgets;
 namespace Tarn::Storm {
 
 namespace {
+
+constexpr int WithManyCalls = 4;
 
 // A window with two of the widgets and neighbours to take the focus.
 QWidget *createForm(Stage &stage)
@@ -154,13 +158,17 @@ void buildHelper(Stage &stage, Dice &)
     other->show();
 }
 
-template <typename Dialog> void buildDialog(Stage &stage, Dice &dice)
+void buildMessageBox(Stage &stage, Dice &dice)
 {
     QWidget *form = createForm(stage);
     form->show();
-    auto *dialog = new Dialog(dice.oneIn(2) ? form : nullptr);
-    stage.own(dialog);
-    dialog->show();
+    QWidget *parent = dice.oneIn(2) ? form : nullptr;
+    auto *box = dice.oneIn(2)
+        ? new FramelessMessageBox(parent)
+        : new FramelessMessageBox(draw<QMessageBox::Icon>({dice, stage}), drawText(dice).left(40),
+                                  drawText(dice), draw<QMessageBox::StandardButtons>({dice, stage}), parent);
+    stage.own(box);
+    box->show();
 }
 
 void buildFramelessDialog(Stage &stage, Dice &dice)
@@ -195,7 +203,9 @@ void buildWindow(Stage &stage, Dice &dice)
 
 void buildLimited(Stage &stage, Dice &dice)
 {
-    auto *dialog = new LimitedFileDialog(nullptr, QString(), stage.files().root());
+    auto *dialog = dice.oneIn(4) ? new LimitedFileDialog(nullptr, Qt::Window)
+                                 : new LimitedFileDialog(nullptr, QString(), stage.files().root());
+    dialog->setDirectory(stage.files().root());
     stage.own(dialog);
     dialog->setOption(QFileDialog::ReadOnly);
     dialog->setStrict(dice.oneIn(2));
@@ -205,9 +215,11 @@ void buildLimited(Stage &stage, Dice &dice)
     dialog->show();
 }
 
-void buildFileDialog(Stage &stage, Dice &)
+void buildFileDialog(Stage &stage, Dice &dice)
 {
-    auto *dialog = new FramelessFileDialog(nullptr, QString(), stage.files().root());
+    auto *dialog = dice.oneIn(4) ? new FramelessFileDialog(nullptr, Qt::Widget)
+                                 : new FramelessFileDialog(nullptr, QString(), stage.files().root());
+    dialog->setDirectory(stage.files().root());
     stage.own(dialog);
     dialog->setOption(QFileDialog::ReadOnly);
     dialog->show();
@@ -228,7 +240,8 @@ void addGallery(QVector<Scene> &all)
                         widget->show();
                     }});
         for (const Gallery::DialogExhibit &exhibit : page.dialogs) {
-            all.append({QStringLiteral("exhibit-") + exhibit.id, [exhibit](Stage &stage, Dice &) {
+            all.append({QStringLiteral("exhibit-") + page.id + QLatin1Char('-') + exhibit.id,
+                        [exhibit](Stage &stage, Dice &) {
                             QDialog *dialog = exhibit.create(nullptr);
                             stage.own(dialog);
                             dialog->show();
@@ -255,18 +268,18 @@ QVector<Scene> scenes()
     QVector<Scene> all = {{QStringLiteral("changednoticelineedit"), buildNotice},
                           {QStringLiteral("colordialog"), buildColorDialog},
                           {QStringLiteral("framelessdialog"), buildFramelessDialog},
-                          {QStringLiteral("framelessfiledialog"), buildFileDialog},
+                          {QStringLiteral("framelessfiledialog"), buildFileDialog, WithManyCalls},
                           {QStringLiteral("framelesshelper"), buildHelper},
-                          {QStringLiteral("framelessmessagebox"), buildDialog<FramelessMessageBox>},
+                          {QStringLiteral("framelessmessagebox"), buildMessageBox, WithManyCalls},
                           {QStringLiteral("framelesswindow"), buildWindow},
                           {QStringLiteral("frameline"), buildFrameLine},
-                          {QStringLiteral("iplineedit"), buildForm<IPLineEdit>},
-                          {QStringLiteral("limitedfiledialog"), buildLimited},
+                          {QStringLiteral("iplineedit"), buildForm<IPLineEdit>, WithManyCalls},
+                          {QStringLiteral("limitedfiledialog"), buildLimited, WithManyCalls},
                           {QStringLiteral("stylesheetwidget"), buildForm<StyleSheetWidget>},
                           {QStringLiteral("tabbarrd"), buildForm<TabBarRd>},
                           {QStringLiteral("tarnpushbutton"), buildForm<TarnPushButton>},
-                          {QStringLiteral("tarntabbar"), buildTabBar},
-                          {QStringLiteral("tarntabwidget"), buildTabWidget},
+                          {QStringLiteral("tarntabbar"), buildTabBar, WithManyCalls},
+                          {QStringLiteral("tarntabwidget"), buildTabWidget, WithManyCalls},
                           {QStringLiteral("titlebar"), buildTitleBar},
                           {QStringLiteral("toolbutton"), buildToolButton}};
 #ifdef TARN_STORM_GALLERY

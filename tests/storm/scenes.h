@@ -12,6 +12,7 @@ struct Scene
 {
     QString name;
     std::function<void(Stage &stage, Dice &dice)> build;
+    int weight = 1; //!< its share of a run
 };
 
 /*! One for each exported class and each page of the gallery. */

@@ -3,14 +3,21 @@
 
 #include "stage.h"
 
+#include "tally.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QFileDialog>
+#include <QPalette>
+#include <QStyle>
 #include <algorithm>
 
 namespace Tarn::Storm {
 
 Stage::Stage()
+    : m_style(QApplication::style()->objectName())
+    , m_font(QApplication::font())
+    , m_direction(QApplication::layoutDirection())
 {
     m_nursery = new QWidget;
     m_nursery->setObjectName(QStringLiteral("stormNursery"));
@@ -24,6 +31,18 @@ Stage::~Stage()
         delete object;
     delete m_nursery;
     qApp->removeEventFilter(this);
+    m_props.clear();
+    restoreLook();
+}
+
+// What one scene leaves to the next would make that depend on it.
+void Stage::restoreLook()
+{
+    if (QApplication::style()->objectName() != m_style)
+        QApplication::setStyle(m_style);
+    QApplication::setPalette(QPalette());
+    QApplication::setFont(m_font);
+    QApplication::setLayoutDirection(m_direction);
 }
 
 void Stage::own(QObject *object)
@@ -109,7 +128,10 @@ const Test::FileTree &Stage::files()
 
 bool Stage::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::Show || !watched->isWidgetType())
+    if (!watched->isWidgetType())
+        return false;
+    tally(event);
+    if (event->type() != QEvent::Show)
         return false;
     auto *widget = static_cast<QWidget *>(watched);
     if (!widget->isWindow())

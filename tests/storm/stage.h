@@ -8,6 +8,7 @@
 #include "support/filedialogparts.h"
 #include "support/stateguard.h"
 
+#include <QFont>
 #include <QObject>
 #include <QPointer>
 #include <QVector>
@@ -50,7 +51,12 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void restoreLook();
+
     Test::StateGuard m_guard;
+    const QString m_style;
+    const QFont m_font;
+    const Qt::LayoutDirection m_direction;
     Test::FileTree m_files;
     QVector<std::shared_ptr<void>> m_props;
     QVector<QPointer<QWidget>> m_windows;

@@ -4,6 +4,7 @@
 #include "storm.h"
 
 #include "oracle.h"
+#include "tally.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -12,6 +13,7 @@
 #include <QFile>
 #include <QThread>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -25,6 +27,7 @@ constexpr int LongestNest = 60; // steps
 constexpr int MostAttempts = 300; // to end a loop
 constexpr int StepsPerTurn = 12; // on average
 constexpr int StepsPerCheck = 32;
+constexpr int StepsPerLook = 8;
 constexpr int ExitFound = 3;
 
 enum Purpose : quint64 { Building, Choosing, Nesting, Ending };
@@ -88,8 +91,10 @@ Storm::Storm(const Scene &scene, const Course &course, Trail &trail)
     , m_trail(trail)
     , m_kinds(inputKinds() + changeKinds() + callKinds() + modalKinds())
 {
-    for (const Kind &kind : qAsConst(m_kinds))
+    for (const Kind &kind : qAsConst(m_kinds)) {
         m_weight += kind.weight;
+        expectInTally(QByteArray("act ") + kind.name);
+    }
     m_notes.wanted = course.isTold;
     m_trail.enter(scene.name);
 }
@@ -145,7 +150,11 @@ bool Storm::leaveNest()
     Dice dice(m_course.seed, purposeOf(m_scene, Ending),
               quint64(m_number) * MostAttempts + quint64(nest.attempts));
     m_hand.buttons = Qt::NoButton;
-    endInnermostLoop(*m_stage, dice, nest.mayDelete); // may open another
+    // What Qt asks now it asks from the stack of a dialog, which must stay until the answer.
+    const Kind *outer = m_kind;
+    m_kind = nullptr;
+    endInnermostLoop(*m_stage, dice, nest.mayDelete);
+    m_kind = outer;
     return true;
 }
 
@@ -207,7 +216,7 @@ void Storm::doStep(int number)
     m_trail.mark(number);
     Dice dice(m_course.seed, purposeOf(m_scene, Choosing), quint64(number));
     const Kind &kind = kindOf(dice);
-    if (m_stage->owned().isEmpty())
+    if (isBare())
         m_scene.build(*m_stage, dice);
     if (!isSuitable(kind))
         return;
@@ -216,6 +225,7 @@ void Storm::doStep(int number)
     m_notes.text.clear();
     if (m_course.isTold)
         announce(kind);
+    tally(QByteArray("act ") + kind.name);
     Context context{*m_stage, dice, m_hand, m_notes};
     kind.act(context);
     m_kind = outer;
@@ -224,6 +234,20 @@ void Storm::doStep(int number)
         std::fflush(stdout);
     }
     check();
+}
+
+bool Storm::isAnybodyCalled() const
+{
+    const QVector<QObject *> all = m_stage->objects();
+    return std::any_of(all.cbegin(), all.cend(), hasCalls);
+}
+
+// Whether what the scene is about has been deleted. Looked at now and then only, since it takes long.
+bool Storm::isBare() const
+{
+    if (m_number % StepsPerLook != 0)
+        return m_stage->owned().isEmpty();
+    return m_stage->windows().isEmpty() || (m_hasCalls && !isAnybodyCalled());
 }
 
 void Storm::announce(const Kind &kind)
@@ -259,6 +283,7 @@ void Storm::beginLife(int number)
     m_stage = std::make_unique<Stage>();
     Dice dice(m_course.seed, purposeOf(m_scene, Building), quint64(m_life));
     m_scene.build(*m_stage, dice);
+    m_hasCalls = isAnybodyCalled();
 }
 
 void Storm::endLife()
@@ -281,6 +306,7 @@ void Storm::report(const QString &finding) const
     std::printf("\nFOUND %s\n  scene %s, seed %llu, step %d%s%s %s\n", qPrintable(finding),
                 qPrintable(m_scene.name), m_course.seed, m_number, m_kind ? ", " : "",
                 m_kind ? m_kind->name : "", qPrintable(m_notes.text));
+    std::printf("  Again: scripts/storm --seed %llu --scene %s\n", m_course.seed, qPrintable(m_scene.name));
     std::fflush(stdout);
     // Nothing is taken down: the stack may be deep in loops.
     std::_Exit(ExitFound);

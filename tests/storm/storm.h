@@ -54,6 +54,8 @@ private:
     void noticeNest();
     void work();
     void doStep(int number);
+    bool isAnybodyCalled() const;
+    bool isBare() const;
     void announce(const Kind &kind);
     const Kind &kindOf(Dice &dice) const;
     bool isSuitable(const Kind &kind) const;
@@ -72,6 +74,7 @@ private:
     Hand m_hand;
     Notes m_notes;
     std::unique_ptr<Stage> m_stage;
+    bool m_hasCalls = false; // the scene, when it was built
     int m_life = -1;
     int m_place = 0; // in m_course.only, or the step number itself
     QVector<Nest> m_nests;

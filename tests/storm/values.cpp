@@ -189,6 +189,8 @@ QAction *drawAction(Source source)
 QVariant drawVariant(int type, Source source)
 {
     Dice &dice = source.dice;
+    if (type == qMetaTypeId<QWidget *>())
+        return QVariant::fromValue(drawWidget(source));
     switch (type) {
     case QMetaType::Bool:
         return dice.oneIn(2);

@@ -7,6 +7,7 @@
 #include "dice.h"
 
 #include <QColor>
+#include <QDir>
 #include <QFileDialog>
 #include <QFont>
 #include <QIcon>
@@ -107,6 +108,14 @@ TARN_STORM_DRAW(QFileDialog::ViewMode, source.dice.pick({QFileDialog::Detail, QF
 TARN_STORM_DRAW(QFileDialog::FileMode,
                 source.dice.pick({QFileDialog::AnyFile, QFileDialog::ExistingFile, QFileDialog::Directory,
                                   QFileDialog::ExistingFiles}))
+TARN_STORM_DRAW(QFileDialog::DialogLabel, QFileDialog::DialogLabel(source.dice.below(5)))
+// Qt's own dialog stays Qt's own.
+TARN_STORM_DRAW(QFileDialog::Option,
+                source.dice.pick({QFileDialog::ShowDirsOnly, QFileDialog::DontResolveSymlinks,
+                                  QFileDialog::DontConfirmOverwrite, QFileDialog::ReadOnly,
+                                  QFileDialog::HideNameFilterDetails,
+                                  QFileDialog::DontUseCustomDirectoryIcons}))
+TARN_STORM_DRAW(QDir::Filters, QDir::Filters(QFlag(source.dice.below(0x8000))))
 TARN_STORM_DRAW(QFileDialog::AcceptMode, source.dice.pick({QFileDialog::AcceptOpen, QFileDialog::AcceptSave}))
 
 } // namespace Tarn::Storm
