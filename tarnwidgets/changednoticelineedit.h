@@ -49,8 +49,8 @@ Q_SIGNALS:
      * popup, another window. Emitted before QLineEdit reacts, so a slot still
      * finds the selection that the user left behind. A slot may delete the field,
      * best with deleteLater(): Qt does not stand a delete at once when the focus
-     * leaves for the field's own context menu, or by setEnabled() or hide() called
-     * on the field.
+     * leaves for the field's own context menu, or by setEnabled(), hide() or
+     * clearFocus() called on the field.
      */
     void signal_focusOut();
 

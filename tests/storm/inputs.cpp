@@ -326,7 +326,9 @@ void focus(Context &c)
     c.notes.about(widget, QStringLiteral("reason %1").arg(reason));
     switch (c.dice.below(6)) {
     case 0:
-        widget->clearFocus();
+        // Qt goes on with a widget that a slot has deleted meanwhile.
+        if (!widget->property("mayVanish").toBool())
+            widget->clearFocus();
         break;
     case 1:
         QApplication::setActiveWindow(nullptr);

@@ -82,6 +82,7 @@ void buildNotice(Stage &stage, Dice &dice)
     QObject::connect(survivor, &ChangedNoticeLineEdit::signal_focusOut, survivor, &QLineEdit::clear);
     auto *victim = addTo<ChangedNoticeLineEdit>(form, stage);
     if (dice.oneIn(2)) {
+        victim->setProperty("mayVanish", true);
         QObject::connect(victim, &ChangedNoticeLineEdit::signal_focusOut, form, [victim] {
             if (isInUse(victim))
                 victim->deleteLater();
