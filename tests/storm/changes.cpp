@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QHash>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPainter>
@@ -171,6 +172,19 @@ void applicationStyleSheet(Context &c)
     qApp->setStyleSheet(c.dice.oneIn(3) ? theme(c) : drawStyleSheet(c.dice));
 }
 
+// They stay to the end, since Qt keeps tool tips, whose style sheets stand upon them.
+QStyle *drawStyle(Dice &dice)
+{
+    static QHash<QString, QStyle *> styles;
+    const QString name = dice.pickOf(QStyleFactory::keys().toVector());
+    QStyle *&style = styles[name];
+    if (!style) {
+        style = QStyleFactory::create(name);
+        style->setParent(qApp);
+    }
+    return style;
+}
+
 void look(Context &c)
 {
     QWidget *widget = pickSubjectWidget(c);
@@ -196,13 +210,9 @@ void look(Context &c)
     case 5:
         widget->setCursor(Qt::CursorShape(c.dice.below(Qt::LastCursor + 1)));
         break;
-    case 6: {
-        const std::shared_ptr<QStyle> style(
-            QStyleFactory::create(c.dice.pickOf(QStyleFactory::keys().toVector())));
-        c.stage.keep(style);
-        widget->setStyle(style.get());
+    case 6:
+        widget->setStyle(drawStyle(c.dice));
         break;
-    }
     default:
         widget->setFocusPolicy(c.dice.pick({Qt::NoFocus, Qt::TabFocus, Qt::ClickFocus, Qt::StrongFocus}));
         break;

@@ -38,6 +38,13 @@ Stage::~Stage()
 // What one scene leaves to the next would make that depend on it.
 void Stage::restoreLook()
 {
+    // Qt keeps a tool tip, whose style is that of a widget that has gone.
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->inherits("QTipLabel"))
+            delete window;
+    }
+    qApp->setStyleSheet(QString());
     if (QApplication::style()->objectName() != m_style)
         QApplication::setStyle(m_style);
     QApplication::setPalette(QPalette());
