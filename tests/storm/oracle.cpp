@@ -48,6 +48,7 @@ constexpr Sanction Sanctions[] = {
     {"(SetInputFocus)", "Qt and a window manager that hides the window meanwhile"},
     {"(BadWindow)", "likewise"},
     {"setNetWmStateOnUnmappedWindow", "likewise"},
+    {"(BadGC)", "Qt's backing store on X11, which at times puts an image before it has a graphics context"},
     {"QBasicTimer::start: Timers cannot have negative timeouts", "a button's autoRepeatDelay is drawn, too"},
     {"does not contain a '[*]' placeholder", "so is a window's windowModified"},
     {"QDialogButtonBox::addButton: Invalid ButtonRole", "roles out of range are drawn on purpose"},
