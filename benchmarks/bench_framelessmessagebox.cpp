@@ -164,7 +164,8 @@ int main(int argc, char **argv)
         argc, argv,
         {
             {"message-life", "a message with OK: made, shown, painted, clicked, destroyed", 1.27,
-             side<Life<FramelessMessageBox>>(), side<Life<QMessageBox>>(), nullptr, true, 20},
+             side<Life<FramelessMessageBox>>(), side<Life<QMessageBox>>(), nullptr, true, 20, 20,
+             side<BareLife>()},
             {"message-bare", "the same against its bare widgets and layouts", 0.89,
              side<Life<FramelessMessageBox>>(), side<BareLife>(), nullptr, true, 20},
             {"message-full-life", "the same with icon, informative and detailed text", 0.40,

@@ -8,6 +8,9 @@
 #include <QApplication>
 #include <QByteArray>
 #include <QStringList>
+#include <algorithm>
+#include <array>
+#include <chrono>
 #include <cstdio>
 #include <valgrind/callgrind.h>
 
@@ -29,6 +32,7 @@ double count(const Scenario &scenario, const char *sideName, const MakeSide &mak
     }
 
     long allocated = 0;
+    CALLGRIND_START_INSTRUMENTATION; // what comes before runs faster without
     CALLGRIND_ZERO_STATS;
     for (int i = 0; i < scenario.steps; ++i) {
         side->prepare();
@@ -39,6 +43,7 @@ double count(const Scenario &scenario, const char *sideName, const MakeSide &mak
         allocated += allocations() - before;
     }
     CALLGRIND_DUMP_STATS_AT(dump.constData());
+    CALLGRIND_STOP_INSTRUMENTATION;
     return double(allocated) / scenario.steps;
 }
 
@@ -48,8 +53,46 @@ void measure(const Scenario &scenario)
     const double qt = count(scenario, "qt", scenario.qt);
     if (scenario.empty)
         count(scenario, "empty", scenario.empty);
+    if (scenario.limit)
+        count(scenario, "limit", scenario.limit);
     std::printf("%s\t%d\t%g\t%s\t%.2f\t%.2f\t%s\n", scenario.name, scenario.steps, scenario.goal,
                 scenario.mayAllocateMore ? "any" : "same", ours, qt, scenario.work);
+}
+
+/* Seconds of a step. */
+double secondsOf(const Scenario &scenario, const MakeSide &makeSide)
+{
+    if (!makeSide)
+        return 0;
+    const std::unique_ptr<Side> side = makeSide();
+    std::chrono::duration<double> sum{};
+    for (int i = -1; i < scenario.steps; ++i) { // one to warm up
+        side->prepare();
+        const auto begin = std::chrono::steady_clock::now();
+        side->step();
+        if (i >= 0)
+            sum += std::chrono::steady_clock::now() - begin;
+    }
+    return sum.count() / scenario.steps;
+}
+
+/* Both sides in turn, so that what slows the machine down slows both. */
+void compareTimes(const Scenario &scenario)
+{
+    std::array<double, 9> ratios{};
+    for (double &ratio : ratios) {
+        const double empty = secondsOf(scenario, scenario.empty);
+        const double ours = secondsOf(scenario, scenario.ours) - empty;
+        ratio = ours / (secondsOf(scenario, scenario.qt) - empty);
+    }
+    std::sort(ratios.begin(), ratios.end());
+    std::printf("%s\t%.2f\t%.2f\t%.2f\n", scenario.name, ratios[ratios.size() / 2], ratios.front(),
+                ratios.back());
+}
+
+bool isLarge(const QString &name)
+{
+    return name.endsWith(QLatin1String("-1000")) || name.endsWith(QLatin1String("-large"));
 }
 
 } // namespace
@@ -64,10 +107,13 @@ void Side::prepare()
 int run(int argc, char **argv, const std::vector<Scenario> &scenarios)
 {
     const QApplication application(argc, argv);
-    const QStringList names = QApplication::arguments().mid(1);
+    QStringList names = QApplication::arguments().mid(1);
+    const bool isTimed = names.removeAll(QStringLiteral("--time")) > 0;
+    const bool isShort = names.removeAll(QStringLiteral("--short")) > 0;
     for (const Scenario &scenario : scenarios) {
-        if (names.isEmpty() || names.contains(QLatin1String(scenario.name)))
-            measure(scenario);
+        const QString name = QLatin1String(scenario.name);
+        if ((names.isEmpty() || names.contains(name)) && !(isShort && isLarge(name)))
+            isTimed ? compareTimes(scenario) : measure(scenario);
     }
     return 0;
 }

@@ -48,9 +48,15 @@ struct Scenario
     bool mayAllocateMore = false; //!< Whether our step may ask for heap memory more often than Qt's.
     int steps = 200;
     int warmUpSteps = 20; //!< By then fonts are loaded, caches filled and lists as long as they get.
+    MakeSide limit = nullptr; //!< Ours without its logic: what its widgets and layouts take by themselves.
 };
 
-/*! All that main() of a benchmark has to do. */
+/*!
+ * All that main() of a benchmark has to do: counts the scenarios that the arguments name, all if they name
+ * none. With --short those are left out whose names end in -1000 or -large, which take minutes under
+ * callgrind. With --time both sides are timed in turn instead, and the ratio's median, least and most
+ * printed.
+ */
 int run(int argc, char **argv, const std::vector<Scenario> &scenarios);
 
 } // namespace Tarn::Benchmark

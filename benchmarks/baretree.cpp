@@ -1,0 +1,197 @@
+// SPDX-FileCopyrightText: 2026 the tarnwidgets developers
+// SPDX-License-Identifier: MIT
+
+#include "baretree.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QHash>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMetaProperty>
+#include <QPushButton>
+#include <QRegExpValidator>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QTextEdit>
+#include <QToolButton>
+
+namespace Tarn::Benchmark {
+
+namespace {
+
+using Copies = QHash<const QWidget *, QWidget *>;
+
+template <typename Widget> QWidget *makeIf(const QWidget &model, QWidget *parent)
+{
+    return qobject_cast<const Widget *>(&model) ? new Widget(parent) : nullptr;
+}
+
+template <typename... Widgets> QWidget *makeFirst(const QWidget &model, QWidget *parent)
+{
+    QWidget *made = nullptr;
+    ((made = made ? made : makeIf<Widgets>(model, parent)), ...);
+    return made;
+}
+
+/* Of the class of Qt's that the model derives from, among those that our widgets are made of. */
+QWidget *makePeer(const QWidget &model, QWidget *parent)
+{
+    return makeFirst<QDialog, QDialogButtonBox, QCheckBox, QPushButton, QToolButton, QLabel, QLineEdit,
+                     QSpinBox, QTextEdit, QStackedWidget, QTabBar, QFrame, QWidget>(model, parent);
+}
+
+/* What makes its own children. */
+bool isWhole(const QWidget &model)
+{
+    return qobject_cast<const QDialogButtonBox *>(&model) || qobject_cast<const QAbstractSpinBox *>(&model)
+        || qobject_cast<const QAbstractScrollArea *>(&model) || qobject_cast<const QTabBar *>(&model);
+}
+
+bool isInherited(const QWidget &model, const QByteArray &name)
+{
+    return (name == "font" && !model.testAttribute(Qt::WA_SetFont))
+        || (name == "palette" && !model.testAttribute(Qt::WA_SetPalette))
+        || (name == "cursor" && !model.testAttribute(Qt::WA_SetCursor))
+        || (name == "locale" && !model.testAttribute(Qt::WA_SetLocale))
+        || (name == "layoutDirection" && !model.testAttribute(Qt::WA_SetLayoutDirection));
+}
+
+void copyProperties(const QWidget &model, QWidget *copy)
+{
+    const QMetaObject *type = copy->metaObject();
+    for (int i = 0; i < type->propertyCount(); ++i) {
+        const QMetaProperty property = type->property(i);
+        const QVariant value = property.read(&model);
+        if (property.isWritable() && property.isStored() && qstrcmp(property.name(), "geometry") != 0
+            && !isInherited(model, property.name()) && value != property.read(copy))
+            property.write(copy, value);
+    }
+    const auto names = model.dynamicPropertyNames();
+    for (const QByteArray &name : names) {
+        if (!name.startsWith("_q_"))
+            copy->setProperty(name.constData(), model.property(name.constData()));
+    }
+}
+
+void copyIcon(const QLabel *model, QWidget *copy)
+{
+    if (model && !model->pixmap(Qt::ReturnByValue).isNull())
+        qobject_cast<QLabel *>(copy)->setPixmap(model->pixmap(Qt::ReturnByValue));
+}
+
+void copyContent(const QWidget &model, QWidget *copy)
+{
+    if (const auto *bar = qobject_cast<const QTabBar *>(&model)) {
+        for (int i = 0; i < bar->count(); ++i)
+            qobject_cast<QTabBar *>(copy)->addTab(bar->tabText(i));
+        qobject_cast<QTabBar *>(copy)->setCurrentIndex(bar->currentIndex());
+    } else if (const auto *box = qobject_cast<const QDialogButtonBox *>(&model)) {
+        const auto buttons = box->buttons();
+        for (QAbstractButton *button : buttons) {
+            if (box->standardButton(button) == QDialogButtonBox::NoButton)
+                qobject_cast<QDialogButtonBox *>(copy)->addButton(button->text(), box->buttonRole(button));
+        }
+    }
+    copyIcon(qobject_cast<const QLabel *>(&model), copy);
+    const auto validators = model.findChildren<QRegExpValidator *>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QRegExpValidator *validator : validators)
+        new QRegExpValidator(validator->regExp(), copy);
+}
+
+void copyWidgets(const QWidget &model, QWidget *copy, Copies *copies)
+{
+    copies->insert(&model, copy);
+    copyProperties(model, copy);
+    copyContent(model, copy);
+    if (isWhole(model))
+        return;
+    const auto children = model.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QWidget *child : children) {
+        QWidget *peer = makePeer(*child, copy);
+        copyWidgets(*child, peer, copies);
+        if (child->isHidden() && child->testAttribute(Qt::WA_WState_ExplicitShowHide))
+            peer->hide();
+        if (auto *stack = qobject_cast<QStackedWidget *>(copy))
+            stack->addWidget(peer);
+    }
+}
+
+QLayout *copyLayout(QLayout *model, const Copies &copies);
+
+QLayout *copyGrid(QGridLayout *model, const Copies &copies)
+{
+    auto *copy = new QGridLayout;
+    copy->setHorizontalSpacing(model->horizontalSpacing());
+    copy->setVerticalSpacing(model->verticalSpacing());
+    for (int i = 0; i < model->count(); ++i) {
+        QLayoutItem *item = model->itemAt(i);
+        int row = 0;
+        int column = 0;
+        int rows = 0;
+        int columns = 0;
+        model->getItemPosition(i, &row, &column, &rows, &columns);
+        if (item->widget())
+            copy->addWidget(copies.value(item->widget()), row, column, rows, columns, item->alignment());
+        else if (item->layout())
+            copy->addLayout(copyLayout(item->layout(), copies), row, column, rows, columns,
+                            item->alignment());
+        else
+            copy->addItem(new QSpacerItem(*item->spacerItem()), row, column, rows, columns,
+                          item->alignment());
+    }
+    return copy;
+}
+
+QLayout *copyBox(QBoxLayout *model, const Copies &copies)
+{
+    auto *copy = new QBoxLayout(model->direction());
+    copy->setSpacing(model->spacing());
+    for (int i = 0; i < model->count(); ++i) {
+        QLayoutItem *item = model->itemAt(i);
+        if (item->widget())
+            copy->addWidget(copies.value(item->widget()), model->stretch(i), item->alignment());
+        else if (item->layout())
+            copy->addLayout(copyLayout(item->layout(), copies), model->stretch(i));
+        else
+            copy->addSpacerItem(new QSpacerItem(*item->spacerItem()));
+    }
+    return copy;
+}
+
+QLayout *copyLayout(QLayout *model, const Copies &copies)
+{
+    auto *grid = qobject_cast<QGridLayout *>(model);
+    QLayout *copy = grid ? copyGrid(grid, copies) : copyBox(static_cast<QBoxLayout *>(model), copies);
+    copy->setContentsMargins(model->contentsMargins());
+    return copy;
+}
+
+void copyLayouts(const Copies &copies)
+{
+    for (auto copy = copies.cbegin(); copy != copies.cend(); ++copy) {
+        QLayout *layout = copy.key()->layout();
+        if (layout && !copy.value()->layout())
+            copy.value()->setLayout(copyLayout(layout, copies));
+    }
+}
+
+} // namespace
+
+std::unique_ptr<QWidget> bareTree(const QWidget &model)
+{
+    std::unique_ptr<QWidget> tree(makePeer(model, nullptr));
+    tree->setWindowFlags(model.windowFlags());
+    tree->setAttribute(Qt::WA_TranslucentBackground, model.testAttribute(Qt::WA_TranslucentBackground));
+    Copies copies;
+    copyWidgets(model, tree.get(), &copies);
+    copyLayouts(copies);
+    tree->resize(model.size());
+    return tree;
+}
+
+} // namespace Tarn::Benchmark
