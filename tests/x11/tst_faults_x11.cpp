@@ -7,6 +7,7 @@
 #include "desktop.h"
 
 #include <QFile>
+#include <QFileDialog>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTemporaryDir>
@@ -134,15 +135,20 @@ void tst_FaultsX11::keyboardComesBackToEachDialog()
     MessageSentry sentry; // the file dialog tells what the user did
     bool hadKeyboard = false;
     bool hasKeyboard = false;
+    bool isQtsOwn = false;
     ModalDriver driver([&](QWidget *outer) {
         QVERIFY(m_desktop->isShown(outer));
         inner.run(outer);
         // WHEN that one is answered, THEN the first one has the keyboard again
-        hasKeyboard = QTest::qWaitFor([&] { return m_desktop->hasKeyboard(outer); });
+        // Without a window manager a QDialog, which the limited file dialog is, leaves the keyboard to
+        // nobody.
+        hasKeyboard = (isQtsOwn && !XServer::expectsWindowManager())
+            || QTest::qWaitFor([&] { return m_desktop->hasKeyboard(outer); });
         kinds.first().accept(outer);
     });
     driver.then([&](QWidget *dialog) {
         QVERIFY(m_desktop->isShown(dialog));
+        isQtsOwn = qobject_cast<QFileDialog *>(dialog);
         hadKeyboard = QTest::qWaitFor([&] { return m_desktop->hasKeyboard(dialog); });
         inner.accept(dialog);
     });
