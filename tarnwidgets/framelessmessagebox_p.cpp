@@ -124,19 +124,32 @@ void MessageLabel::followText() const
     m_measuredFont = font();
     m_wrapped = Sizes();
     m_heights.clear();
-    m_document.setUndoRedoEnabled(false);
-    m_document.setDocumentMargin(0);
-    m_document.setDefaultFont(m_measuredFont);
-    m_document.setDefaultTextOption(QTextOption()); // wraps between words
-    m_document.setTextWidth(-1);
-    m_document.setPlainText(m_measuredText);
-    m_unwrapped.hint = m_unwrapped.minimum = roundedUp(m_document.size());
+    m_document.reset();
+    m_unwrapped.hint = m_unwrapped.minimum = roundedUp(document()->size());
+}
+
+QTextDocument *MessageLabel::document() const
+{
+    if (!m_document) {
+        m_document = std::make_unique<QTextDocument>();
+        m_document->setUndoRedoEnabled(false);
+        m_document->setDocumentMargin(0);
+        m_document->setDefaultFont(m_measuredFont);
+        m_document->setDefaultTextOption(QTextOption()); // wraps between words
+        m_document->setPlainText(m_measuredText);
+    }
+    return m_document.get();
+}
+
+void MessageLabel::endMeasuring()
+{
+    m_document.reset();
 }
 
 QSize MessageLabel::measure(qreal width) const
 {
-    m_document.setTextWidth(width);
-    return roundedUp(m_document.size());
+    document()->setTextWidth(width);
+    return roundedUp(document()->size());
 }
 
 const MessageLabel::Sizes &MessageLabel::sizes() const
@@ -145,8 +158,8 @@ const MessageLabel::Sizes &MessageLabel::sizes() const
     if (!isWrapped())
         return m_unwrapped;
     if (!m_wrapped.hint.isValid()) {
-        m_document.adjustSize();
-        m_wrapped.hint = roundedUp(m_document.size());
+        document()->adjustSize();
+        m_wrapped.hint = roundedUp(document()->size());
         m_wrapped.minimum =
             QSize(measure(0).width(), qMin(m_wrapped.hint.height(), m_unwrapped.hint.height()));
     }
@@ -399,6 +412,10 @@ void FramelessMessageBoxPrivate::updateSize()
     box->setFixedSize(QSize(width, height).expandedTo(SmallestBox));
     box->layout()->activate(); // the size may be the former, and what is in it not
     QCoreApplication::removePostedEvents(box, QEvent::LayoutRequest);
+    for (MessageLabel *measured : {label, informativeLabel.data()}) {
+        if (measured)
+            measured->endMeasuring();
+    }
 }
 
 int FramelessMessageBoxPrivate::widthForTexts(int hardLimit, int softLimit)

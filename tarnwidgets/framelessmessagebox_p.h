@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <memory>
 
 class QDialogButtonBox;
 class QGridLayout;
@@ -41,6 +42,9 @@ public:
      */
     void setMeasuredUnwrapped(bool unwrapped);
 
+    /*! Frees what the text is measured with; the sizes that are known stay known. */
+    void endMeasuring();
+
 private:
     /*! The sizes of a text, without the contents margins. */
     struct Sizes
@@ -53,11 +57,12 @@ private:
     bool isMeasuredHere() const;
     bool isWrapped() const;
     void followText() const;
+    QTextDocument *document() const;
     QSize measure(qreal width) const;
     const Sizes &sizes() const;
 
     bool m_measuredUnwrapped = false;
-    mutable QTextDocument m_document;
+    mutable std::unique_ptr<QTextDocument> m_document; // while measuring
     mutable QString m_measuredText;
     mutable QFont m_measuredFont;
     mutable Sizes m_unwrapped;
