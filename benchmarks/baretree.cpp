@@ -61,14 +61,21 @@ bool isInherited(const QWidget &model, const QByteArray &name)
         || (name == "layoutDirection" && !model.testAttribute(Qt::WA_SetLayoutDirection));
 }
 
+/* A QTextEdit would share its document with the model, and set as HTML a plain text takes more. */
+bool isCopied(const QMetaProperty &property)
+{
+    const QByteArray name = property.name();
+    return property.isWritable() && property.isStored() && name != "geometry" && name != "document"
+        && name != "html";
+}
+
 void copyProperties(const QWidget &model, QWidget *copy)
 {
     const QMetaObject *type = copy->metaObject();
     for (int i = 0; i < type->propertyCount(); ++i) {
         const QMetaProperty property = type->property(i);
         const QVariant value = property.read(&model);
-        if (property.isWritable() && property.isStored() && qstrcmp(property.name(), "geometry") != 0
-            && !isInherited(model, property.name()) && value != property.read(copy))
+        if (isCopied(property) && !isInherited(model, property.name()) && value != property.read(copy))
             property.write(copy, value);
     }
     const auto names = model.dynamicPropertyNames();
