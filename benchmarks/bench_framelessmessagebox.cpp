@@ -168,9 +168,9 @@ int main(int argc, char **argv)
              side<BareLife>()},
             {"message-bare", "the same against its bare widgets and layouts", 0.89,
              side<Life<FramelessMessageBox>>(), side<BareLife>(), nullptr, true, 20},
-            {"message-full-life", "the same with icon, informative and detailed text", 0.40,
+            {"message-full-life", "the same with icon, informative and detailed text", 0.39,
              side<FullLife<FramelessMessageBox>>(), side<FullLife<QMessageBox>>(), nullptr, true, 10},
-            {"message-details", "details opened and closed", 0.25, side<Details<FramelessMessageBox>>(),
+            {"message-details", "details opened and closed", 0.22, side<Details<FramelessMessageBox>>(),
              side<Details<QMessageBox>>(), nullptr, true, 10},
         });
 }

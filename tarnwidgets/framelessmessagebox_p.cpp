@@ -265,13 +265,28 @@ QSize DetailButton::sizeHint() const
     ensurePolished();
     QStyleOptionButton option;
     initStyleOption(&option);
+    measureLabels();
     QSize hint;
-    for (const bool detailsHidden : {true, false}) {
-        option.text = label(detailsHidden);
-        const QSize text = fontMetrics().size(Qt::TextShowMnemonic, option.text);
-        hint = hint.expandedTo(style()->sizeFromContents(QStyle::CT_PushButton, &option, text, this));
+    for (const Label &measured : m_labels) {
+        option.text = measured.text;
+        hint =
+            hint.expandedTo(style()->sizeFromContents(QStyle::CT_PushButton, &option, measured.size, this));
     }
     return hint.expandedTo(QApplication::globalStrut());
+}
+
+/* Layouts ask for the hint several times whenever the details are shown or hidden. */
+void DetailButton::measureLabels() const
+{
+    const QFontMetrics metrics = fontMetrics();
+    const bool isSameFont = metrics == m_metrics;
+    m_metrics = metrics;
+    for (const bool detailsHidden : {true, false}) {
+        Label &measured = m_labels[detailsHidden];
+        const QString text = label(detailsHidden);
+        if (!isSameFont || !measured.size.isValid() || measured.text != text)
+            measured = {text, metrics.size(Qt::TextShowMnemonic, text)};
+    }
 }
 
 // State, layout and size

@@ -10,12 +10,14 @@
 #include "framelessmessagebox.h"
 
 #include <QCheckBox>
+#include <QFontMetrics>
 #include <QHash>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <array>
 #include <memory>
 
 class QDialogButtonBox;
@@ -110,6 +112,18 @@ public:
 
     static QString label(bool detailsHidden);
     QSize sizeHint() const override;
+
+private:
+    struct Label
+    {
+        QString text;
+        QSize size;
+    };
+
+    void measureLabels() const;
+
+    mutable std::array<Label, 2> m_labels;
+    mutable QFontMetrics m_metrics = QFontMetrics(QFont()); // with which they are measured
 };
 
 class FramelessMessageBoxPrivate : public QObject

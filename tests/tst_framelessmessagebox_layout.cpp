@@ -237,6 +237,7 @@ private Q_SLOTS:
     void newDetailsKeepTheButtonAndTheState();
     void detailsButtonTextFollowsTheState();
     void detailsButtonFitsBothTexts();
+    void detailsButtonFollowsLanguageAndFont();
     void contextMenuOfTheDetailsPopsUp();
 
     // Icons
@@ -629,6 +630,24 @@ void tst_FramelessMessageBoxLayout::detailsButtonFitsBothTexts()
     QCOMPARE(button.sizeHint(), showing.expandedTo(hiding));
     button.setText(QStringLiteral("x"));
     QCOMPARE(button.sizeHint(), showing.expandedTo(hiding));
+}
+
+void tst_FramelessMessageBoxLayout::detailsButtonFollowsLanguageAndFont()
+{
+    // GIVEN a button that has told its size
+    DetailButton button(nullptr);
+    const QSize before = button.sizeHint();
+    {
+        // WHEN its texts are longer, THEN it is wider
+        const Brackets brackets("Tarn::Widgets::FramelessMessageBox");
+        QVERIFY(button.sizeHint().width() > before.width());
+    }
+    QCOMPARE(button.sizeHint(), before);
+    // WHEN its font is larger, THEN it is higher
+    QFont large = button.font();
+    large.setPixelSize(30);
+    button.setFont(large);
+    QVERIFY(button.sizeHint().height() > before.height());
 }
 
 void tst_FramelessMessageBoxLayout::contextMenuOfTheDetailsPopsUp()
