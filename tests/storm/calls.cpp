@@ -690,6 +690,9 @@ void writeProperty(Context &c)
     const QByteArray name = property.name();
     if (value.userType() == QMetaType::Int && (name.contains("Width") || name.contains("Height")))
         value = drawSize(c.dice).width();
+    // QFrame takes any number for the width of its lines, and Qt then complains when it draws them.
+    if (name == "lineWidth" || name == "midLineWidth")
+        value = qMax(value.toInt(), 0);
     if (c.notes.wanted)
         c.notes.about(
             object, QStringLiteral("%1 = %2").arg(QLatin1String(property.name()), value.toString().left(60)));
