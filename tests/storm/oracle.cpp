@@ -243,7 +243,7 @@ QString whatLeaves(QLayout *layout, const QRect &room)
         if (item->isEmpty() || (item->widget() && isContradictory(item->widget())))
             continue;
         const QRect place = item->widget() ? item->widget()->geometry() : item->geometry();
-        if (!item->spacerItem() && !room.contains(place))
+        if (!item->spacerItem() && !place.isEmpty() && !room.contains(place))
             return item->widget() ? QLatin1String(item->widget()->metaObject()->className())
                                   : QLatin1String("QLayout");
         if (QLayout *inner = item->layout()) {
@@ -276,9 +276,15 @@ QString promisesOf(const FramelessWindow *window)
 {
     const QWidget *content = window->centralWidget();
     auto *frame = content ? qobject_cast<QFrame *>(content->parentWidget()) : nullptr;
-    if (!window->isVisible() || !frame || !frame->layout()
+    // Qt shows a new frame from the event loop, and keeps it far outside of a window that has no area.
+    if (!frame || !frame->isVisible() || !frame->layout() || window->size().isEmpty()
         || !frame->property("isFramelessCentralWidget").toBool())
         return {};
+    layOut(window->layout());
+    if (!hasRoom(window->layout(), window->size()))
+        return {};
+    if (!window->rect().contains(frame->geometry()))
+        return QStringLiteral("FramelessWindow's frame is outside of it");
     layOut(frame->layout());
     if (!hasRoom(frame->layout(), frame->size()))
         return {};
