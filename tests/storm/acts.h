@@ -36,6 +36,7 @@ struct Context
     Dice &dice;
     Hand &hand;
     Notes &notes;
+    bool mayDelete; //!< Not in a loop of Qt's own.
 
     Source source()
     {

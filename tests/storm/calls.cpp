@@ -639,7 +639,9 @@ void callOurs(Context &c)
     const QVector<int> &candidates = callsOf(object);
     const Call &chosen = table().at(c.dice.pickOf(candidates));
     c.notes.about(object, QString::fromLatin1(nameOf(chosen)));
-    if (isLeftAlone(object, chosen.name))
+    // It deletes the frame before, with all windows that have their parent in there.
+    const bool deletes = QByteArray(chosen.name).startsWith("setCentralWidget");
+    if (isLeftAlone(object, chosen.name) || (deletes && !c.mayDelete))
         return;
     tally(nameOf(chosen));
     chosen.run(object, c.source());

@@ -134,7 +134,7 @@ void Storm::noticeNest()
     if (level <= known)
         return;
     Dice dice(m_course.seed, purposeOf(m_scene, Nesting), quint64(m_number));
-    const bool outerMay = m_nests.isEmpty() || m_nests.constLast().mayDelete;
+    const bool outerMay = mayDelete();
     m_nests.append(
         {level, m_number + 1 + dice.below(LongestNest), outerMay && m_kind && m_kind->opensModal, 0});
 }
@@ -190,12 +190,17 @@ int Storm::nextNumber() const
     return m_course.only.isEmpty() ? m_place : m_course.only.at(m_place);
 }
 
+bool Storm::mayDelete() const
+{
+    return m_nests.isEmpty() || m_nests.constLast().mayDelete;
+}
+
 bool Storm::isSuitable(const Kind &kind) const
 {
     const bool deletes = qstrcmp(kind.name, "delete") == 0;
     // Qt's own widgets do not stand it that they are deleted while their menu or drag goes on.
-    if (deletes && !m_nests.isEmpty())
-        return m_nests.constLast().mayDelete;
+    if (deletes && !mayDelete())
+        return false;
     return !kind.opensModal || m_nests.size() < MostNests;
 }
 
@@ -226,7 +231,7 @@ void Storm::doStep(int number)
     if (m_course.isTold)
         announce(kind);
     tally(QByteArray("act ") + kind.name);
-    Context context{*m_stage, dice, m_hand, m_notes};
+    Context context{*m_stage, dice, m_hand, m_notes, mayDelete()};
     kind.act(context);
     m_kind = outer;
     if (m_course.isTold) {

@@ -58,6 +58,7 @@ private:
     bool isBare() const;
     void announce(const Kind &kind);
     const Kind &kindOf(Dice &dice) const;
+    bool mayDelete() const;
     bool isSuitable(const Kind &kind) const;
     void beginLife(int number);
     void endLife();
