@@ -551,6 +551,10 @@ bool isLeftAlone(const QObject *object, const char *name)
 {
     // Ends the object, blocks, or makes a window of another kind of it, each of which another step does.
     static const QByteArray anywhere[] = {"deleteLater", "exec", "open", "modal", "windowModality"};
+    // QFrame keeps the distance of that to its edges, and Qt complains when it draws a frame in a widget that
+    // has become too small for them.
+    if (qstrcmp(name, "frameRect") == 0)
+        return true;
     // These would let the user change files; see Stage::eventFilter().
     static const QByteArray inFileDialogs[] = {"options", "readOnly"};
     // The gallery's content is its own, and so is what becomes of it.
