@@ -85,6 +85,7 @@ constexpr Sanction Sanctions[] = {
     {"(BadAlloc)", "Qt, about the picture of a window that is larger than X11 can count", "(CreatePixmap)",
      hadGiant},
     {"(BadPixmap)", "Qt, which frees that picture afterwards", "(FreePixmap)", hadGiant},
+    {"(BadDrawable)", "Qt, which scrolls that picture", "(CopyArea)", hadGiant},
     {"QBasicTimer::start: Timers cannot have negative timeouts", "a button's autoRepeatDelay is drawn, too"},
     {"does not contain a '[*]' placeholder", "so is a window's windowModified"},
     {"QDialogButtonBox::addButton: Invalid ButtonRole", "roles out of range are drawn on purpose"},
