@@ -15,6 +15,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTextStream>
+#include <algorithm>
 #include <cstdlib>
 
 using namespace Tarn::Soak;
@@ -60,6 +61,20 @@ bool isSound(const Subject &subject, int rounds, QTextStream &out)
     return !isLeaking || !subject.isOurs;
 }
 
+/* Complains of names that nothing has, which would leave out all the rest. */
+bool areKnown(const QStringList &names, const QVector<Subject> &all)
+{
+    bool isKnown = true;
+    for (const QString &name : names) {
+        const auto hasName = [&](const Subject &subject) { return subject.name == name; };
+        if (std::none_of(all.begin(), all.end(), hasName)) {
+            QTextStream(stderr) << QStringLiteral("Nothing is called %1.\n").arg(name);
+            isKnown = false;
+        }
+    }
+    return isKnown;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -85,6 +100,14 @@ int main(int argc, char **argv)
     const QStringList names = parser.positionalArguments();
     const QVector<Subject> all =
         parser.isSet(loseOption) ? QVector<Subject>{losing()} : subjects(folder.path());
+    const int rounds = parser.value(roundsOption).toInt();
+    if (!areKnown(names, all) || rounds < Leaking) {
+        QTextStream(stderr)
+            << QStringLiteral("Rounds are a number of %1 at least, names of these:\n").arg(Leaking);
+        for (const Subject &subject : all)
+            QTextStream(stderr) << QStringLiteral("    %1\n").arg(subject.name);
+        return EXIT_FAILURE;
+    }
 
     QTextStream out(stdout);
     out << QStringLiteral("%1 %2 %3 %4\n")
@@ -95,7 +118,7 @@ int main(int argc, char **argv)
     bool isFlat = true;
     for (const Subject &subject : all) {
         if (names.isEmpty() || names.contains(subject.name))
-            isFlat = isSound(subject, parser.value(roundsOption).toInt(), out) && isFlat;
+            isFlat = isSound(subject, rounds, out) && isFlat;
     }
     return isFlat ? EXIT_SUCCESS : EXIT_FAILURE;
 }
