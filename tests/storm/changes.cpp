@@ -25,12 +25,20 @@ namespace Tarn::Storm {
 
 namespace {
 
+bool isPage(const QWidget *widget)
+{
+    return QByteArray(widget->metaObject()->className()).startsWith("Gallery::");
+}
+
 void geometry(Context &c)
 {
     QWidget *widget = pickSubjectWidget(c);
     if (!widget)
         return;
-    const QSize size = drawSize(c.dice);
+    QSize size = drawSize(c.dice);
+    // Text edits without room for a scroll bar make Qt show and hide it for ever.
+    if (isPage(widget))
+        size = size.expandedTo(widget->minimumSizeHint());
     const QPoint place(c.dice.between(-200, 900), c.dice.between(-200, 700));
     if (c.notes.wanted)
         c.notes.about(widget, QStringLiteral("%1 x %2").arg(size.width()).arg(size.height()));

@@ -86,6 +86,7 @@ constexpr Sanction Sanctions[] = {
      hadGiant},
     {"(BadPixmap)", "Qt, which frees that picture afterwards", "(FreePixmap)", hadGiant},
     {"(BadDrawable)", "Qt, which scrolls that picture", "(CopyArea)", hadGiant},
+    {"qDrawShadeRect: Invalid parameters", "a QGroupBox lower than its title, in the Windows style"},
     {"QBasicTimer::start: Timers cannot have negative timeouts", "a button's autoRepeatDelay is drawn, too"},
     {"does not contain a '[*]' placeholder", "so is a window's windowModified"},
     {"QDialogButtonBox::addButton: Invalid ButtonRole", "roles out of range are drawn on purpose"},
