@@ -90,6 +90,8 @@ private Q_SLOTS:
     void typedTextInsideIsLeftToQFileDialog();
     void typedFileIsAccepted_data();
     void typedFileIsAccepted();
+    void detourInsideIsAnsweredByQFileDialog_data();
+    void detourInsideIsAnsweredByQFileDialog();
     void typedFolderIsEntered();
     void buttonComesBackWithATextInside();
     void clearedTextInTheRootDisables();
@@ -356,7 +358,6 @@ void tst_LimitedFileDialogUse::typedFileIsAccepted_data()
         add("missing file", "none.txt", "@/root/none.txt");
         add("below", "sub/inner.txt", "@/root/sub/inner.txt");
         add("absolute", "@/root/sub/deep/deep.txt", "@/root/sub/deep/deep.txt");
-        add("down and up", "sub/../file.txt", "@/root/file.txt");
     }
 }
 
@@ -376,6 +377,41 @@ void tst_LimitedFileDialogUse::typedFileIsAccepted()
     QCOMPARE(confined.dialog.result(), int(QDialog::Accepted));
     QVERIFY(!confined.dialog.isVisible());
     QCOMPARE(QDir::cleanPath(confined.dialog.selectedFiles().value(0)), m_tree->at(file));
+}
+
+void tst_LimitedFileDialogUse::detourInsideIsAnsweredByQFileDialog_data()
+{
+    QTest::addColumn<bool>("isPasted");
+    QTest::addColumn<int>("result");
+    QTest::newRow("pasted") << true << int(QDialog::Accepted);
+    QTest::newRow("typed") << false << int(QDialog::Rejected); // on "sub/.." it selects the folder itself
+}
+
+void tst_LimitedFileDialogUse::detourInsideIsAnsweredByQFileDialog()
+{
+    QFETCH(bool, isPasted);
+    QFETCH(int, result);
+    const QString text = QStringLiteral("sub/../file.txt");
+    QFileDialog plain(nullptr, QString(), m_tree->root(), QString());
+    plain.setOption(QFileDialog::DontUseNativeDialog);
+    plain.setViewMode(QFileDialog::List);
+    const FileDialogParts plainParts(&plain);
+    Confined confined(*m_tree);
+    const std::pair<QFileDialog *, const FileDialogParts *> both[] = {{&plain, &plainParts},
+                                                                      {&confined.dialog, &confined.parts}};
+    for (const auto &[dialog, parts] : both) {
+        dialog->show();
+        QApplication::setActiveWindow(dialog);
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        QVERIFY(parts->isLoaded());
+        if (isPasted)
+            parts->edit->setText(text);
+        else
+            parts->type(text);
+        QTest::keyClick(parts->edit, Qt::Key_Return);
+        QCOMPARE(dialog->result(), result);
+    }
+    QCOMPARE(confined.parts.shown(), plainParts.shown());
 }
 
 void tst_LimitedFileDialogUse::typedFolderIsEntered()

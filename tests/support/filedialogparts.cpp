@@ -126,8 +126,11 @@ QStringList FileDialogParts::lookInTexts() const
 bool FileDialogParts::isLoaded() const
 {
     return QTest::qWaitFor([this] {
-        return list->model()->rowCount(list->rootIndex())
-            == int(dialog->directory().entryList(dialog->filter()).size());
+        const QDir::SortFlags order = QDir::DirsFirst | QDir::Name | QDir::IgnoreCase | QDir::LocaleAware;
+        QStringList rows;
+        for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row)
+            rows.append(list->model()->index(row, 0, list->rootIndex()).data().toString());
+        return rows == dialog->directory().entryList(dialog->filter(), order);
     });
 }
 

@@ -88,7 +88,7 @@ struct FileDialogParts
     QString shown() const; //!< The folder.
     QStringList lookInTexts() const;
 
-    /*! Whether the view has all entries of the folder; waits for that. */
+    /*! Whether the view has all entries of the folder, in order; waits for that. Before, they move. */
     bool isLoaded() const;
 
     /*! Whether the entry \a name is in the view; waits for it. */
