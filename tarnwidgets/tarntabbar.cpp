@@ -6,8 +6,11 @@
 #include <QBoxLayout>
 #include <QColor>
 #include <QIcon>
+#include <QMouseEvent>
 #include <QResizeEvent>
 #include <QVariant>
+
+#include <utility>
 
 namespace Tarn::Widgets {
 
@@ -17,6 +20,7 @@ public:
     TabBarRd::TabBarType m_type = TabBarRd::Normal;
     int m_nMinWidth = 0;
     int m_nMaxWidth = 0;
+    bool m_isHeld = false; // perhaps: nobody tells when it is let go
 };
 
 TabBarRd::TabBarRd(QWidget *parent)
@@ -87,6 +91,30 @@ void TabBarRd::resizeEvent(QResizeEvent *event)
 {
     QTabBar::resizeEvent(event);
     update();
+}
+
+void TabBarRd::mousePressEvent(QMouseEvent *event)
+{
+    d->m_isHeld = true;
+    QTabBar::mousePressEvent(event);
+}
+
+void TabBarRd::tabRemoved(int index)
+{
+    QTabBar::tabRemoved(index);
+    letGo();
+}
+
+// QTabBar keeps the index of the tab that is held, and while others slide aside it keeps it even when tabs are taken
+// away: it would paint a tab beyond the last.
+void TabBarRd::letGo()
+{
+    if (!std::exchange(d->m_isHeld, false))
+        return;
+    const QPoint nowhere(-1, -1);
+    QMouseEvent event(QEvent::MouseButtonRelease, nowhere, mapToGlobal(nowhere), Qt::LeftButton, Qt::NoButton,
+                      Qt::NoModifier);
+    QTabBar::mouseReleaseEvent(&event);
 }
 
 namespace {
@@ -352,6 +380,7 @@ int TarnTabBar::addTab(const QIcon &icon, const QString &text)
 
 void TarnTabBar::removeTab(int index)
 {
+    d->m_pTabBar->letGo(); // afterwards the picture of the tab that is dragged would stay
     d->m_pTabBar->removeTab(index);
 }
 

@@ -20,7 +20,8 @@ class TarnTabBarPrivate;
  * \brief A QTabBar whose tabs can share its whole width evenly.
  *
  * Use it for a bare bar; TarnTabBar puts one into a frame with room for other
- * widgets. Style sheet rules for QTabBar reach it unchanged.
+ * widgets. Style sheet rules for QTabBar reach it unchanged. A tab that is dragged
+ * is let go when any tab is removed.
  *
  * \code
  * auto *bar = new TabBarRd(page);
@@ -68,8 +69,14 @@ protected:
     QSize tabSizeHint(int index) const override;
     QSize minimumTabSizeHint(int index) const override;
     void resizeEvent(QResizeEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void tabRemoved(int index) override;
 
 private:
+    friend class TarnTabBar;
+
+    void letGo();
+
     const std::unique_ptr<TabBarRdPrivate> d;
 };
 

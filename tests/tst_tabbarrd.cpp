@@ -94,6 +94,8 @@ private Q_SLOTS:
     void widthsAreThoseOfTheBar();
     void negativeWidthIsPassedOn();
     void resizeRepaintsAll();
+    void removalLetsTheDraggedTabGo_data();
+    void removalLetsTheDraggedTabGo();
 
 private:
     std::optional<FunctionGuard> m_guard;
@@ -379,6 +381,60 @@ void tst_TabBarRd::resizeRepaintsAll()
 
     // THEN all of it is painted
     QTRY_COMPARE(bar.painted.boundingRect(), bar.rect());
+}
+
+void tst_TabBarRd::removalLetsTheDraggedTabGo_data()
+{
+    QTest::addColumn<QVector<int>>("removed"); // of three tabs, the second being dragged
+    QTest::newRow("the first") << QVector<int>({0});
+    QTest::newRow("the dragged one") << QVector<int>({1});
+    QTest::newRow("the first two") << QVector<int>({0, 0});
+    QTest::newRow("the last two") << QVector<int>({2, 1});
+    QTest::newRow("all") << QVector<int>({0, 0, 0});
+}
+
+void tst_TabBarRd::removalLetsTheDraggedTabGo()
+{
+    QFETCH(QVector<int>, removed);
+
+    // GIVEN a tab that has just passed another one, which is still on its way
+    Bar bar;
+    addTabs(&bar, 3);
+    bar.setMovable(true);
+    bar.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bar));
+    const QPoint start = bar.tabRect(2).center();
+    const QPoint end = bar.tabRect(1).center();
+    QTest::mousePress(&bar, Qt::LeftButton, Qt::NoModifier, start);
+    for (const QPoint &pos : {(start + end) / 2, end}) {
+        QMouseEvent move(QEvent::MouseMove, pos, bar.mapToGlobal(pos), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&bar, &move);
+    }
+    QCOMPARE(bar.tabText(1), QStringLiteral("TabTabTab"));
+    const QString left = [&] {
+        QStringList texts({bar.tabText(0), bar.tabText(1), bar.tabText(2)});
+        for (const int index : removed)
+            texts.removeAt(index);
+        return texts.join(QLatin1Char(' '));
+    }();
+
+    // WHEN tabs are removed
+    for (const int index : removed)
+        bar.removeTab(index);
+
+    // THEN what is left is painted, and moving on drags nothing
+    bar.painted = QRegion();
+    bar.repaint();
+    QVERIFY(!bar.painted.isEmpty());
+    const QPoint further = bar.rect().bottomRight() * 2;
+    QMouseEvent move(QEvent::MouseMove, further, bar.mapToGlobal(further), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(&bar, &move);
+    QStringList texts;
+    for (int index = 0; index < bar.count(); ++index)
+        texts.append(bar.tabText(index));
+    QCOMPARE(texts.join(QLatin1Char(' ')), left);
+    QTest::mouseRelease(&bar, Qt::LeftButton, Qt::NoModifier, end);
 }
 
 QTEST_MAIN(tst_TabBarRd)
