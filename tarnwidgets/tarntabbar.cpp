@@ -105,8 +105,8 @@ void TabBarRd::tabRemoved(int index)
     letGo();
 }
 
-// QTabBar keeps the index of the tab that is held, and while others slide aside it keeps it even when tabs are taken
-// away: it would paint a tab beyond the last.
+// QTabBar keeps the index of the tab that is held, and while others slide aside it keeps it even when tabs
+// are taken away: it would paint a tab beyond the last.
 void TabBarRd::letGo()
 {
     if (!std::exchange(d->m_isHeld, false))

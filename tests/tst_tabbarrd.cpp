@@ -407,7 +407,8 @@ void tst_TabBarRd::removalLetsTheDraggedTabGo()
     const QPoint end = bar.tabRect(1).center();
     QTest::mousePress(&bar, Qt::LeftButton, Qt::NoModifier, start);
     for (const QPoint &pos : {(start + end) / 2, end}) {
-        QMouseEvent move(QEvent::MouseMove, pos, bar.mapToGlobal(pos), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QMouseEvent move(QEvent::MouseMove, pos, bar.mapToGlobal(pos), Qt::NoButton, Qt::LeftButton,
+                         Qt::NoModifier);
         QApplication::sendEvent(&bar, &move);
     }
     QCOMPARE(bar.tabText(1), QStringLiteral("TabTabTab"));
