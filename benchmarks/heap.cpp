@@ -5,7 +5,7 @@
 // and how many more blocks there are after each further one has come and gone.
 
 #include "baretree.h"
-#include "liveheap.h"
+#include "support/liveheap.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -27,8 +27,8 @@
 #include <tarnwidgets/tarntabwidget.h>
 
 using Tarn::Benchmark::bareTree;
-using Tarn::Benchmark::LiveHeap;
-using Tarn::Benchmark::liveHeap;
+using Tarn::Test::LiveHeap;
+using Tarn::Test::liveHeapWithoutPixels;
 using namespace Tarn::Widgets;
 
 namespace {
@@ -61,12 +61,12 @@ void live(const Make &make)
 void measure(const char *name, const char *side, const Make &make)
 {
     live(make); // fonts are loaded then and caches filled
-    const LiveHeap before = liveHeap();
+    const LiveHeap before = liveHeapWithoutPixels();
     live(make);
-    const long kept = liveHeap().blocks - before.blocks;
-    const LiveHeap closed = liveHeap();
+    const long kept = liveHeapWithoutPixels().blocks - before.blocks;
+    const LiveHeap closed = liveHeapWithoutPixels();
     const auto widget = open(make);
-    const LiveHeap opened = liveHeap();
+    const LiveHeap opened = liveHeapWithoutPixels();
     std::printf("%s\t%s\t%ld\t%ld\t%ld\n", name, side, opened.blocks - closed.blocks,
                 opened.bytes - closed.bytes, kept);
 }

@@ -10,25 +10,37 @@
 
 namespace {
 
+constexpr long SmallestPixels = 16384;
+
 // File dialogs have threads.
-std::atomic<long> liveBlocks{0};
-std::atomic<long> liveBytes{0};
+struct Counters
+{
+    std::atomic<long> blocks{0};
+    std::atomic<long> bytes{0};
+};
+
+Counters small;
+Counters large;
+
+long sizeOf(void *memory)
+{
+    return memory != nullptr ? long(malloc_usable_size(memory)) : 0;
+}
+
+// Blocks of no size are none.
+void count(long size, int sign)
+{
+    if (size == 0)
+        return;
+    Counters &counters = size < SmallestPixels ? small : large;
+    counters.blocks += sign;
+    counters.bytes += sign * size;
+}
 
 void *counted(void *memory)
 {
-    if (memory != nullptr) {
-        ++liveBlocks;
-        liveBytes += long(malloc_usable_size(memory));
-    }
+    count(sizeOf(memory), 1);
     return memory;
-}
-
-void discount(void *memory)
-{
-    if (memory != nullptr) {
-        --liveBlocks;
-        liveBytes -= long(malloc_usable_size(memory));
-    }
 }
 
 } // namespace
@@ -55,13 +67,10 @@ __attribute__((visibility("default"))) void *calloc(std::size_t count, std::size
 
 __attribute__((visibility("default"))) void *realloc(void *memory, std::size_t size)
 {
-    const long former = memory != nullptr ? long(malloc_usable_size(memory)) : 0;
+    const long former = sizeOf(memory);
     void *moved = __libc_realloc(memory, size);
-    const bool isFreed = moved != nullptr || size == 0;
-    if (memory != nullptr && isFreed) {
-        --liveBlocks;
-        liveBytes -= former;
-    }
+    if (moved != nullptr || size == 0)
+        count(former, -1);
     return counted(moved);
 }
 
@@ -84,16 +93,21 @@ __attribute__((visibility("default"))) int posix_memalign(void **memory, std::si
 
 __attribute__((visibility("default"))) void free(void *memory)
 {
-    discount(memory);
+    count(sizeOf(memory), -1);
     __libc_free(memory);
 }
 }
 
-namespace Tarn::Soak {
+namespace Tarn::Test {
 
 LiveHeap liveHeap()
 {
-    return {liveBlocks, liveBytes};
+    return {small.blocks + large.blocks, small.bytes + large.bytes};
 }
 
-} // namespace Tarn::Soak
+LiveHeap liveHeapWithoutPixels()
+{
+    return {small.blocks, small.bytes};
+}
+
+} // namespace Tarn::Test
