@@ -458,66 +458,61 @@ QAbstractButton *anyButton(FramelessMessageBox *box, Source source)
 
 QVector<Call> messageBoxCalls()
 {
-    return {CALL(FramelessMessageBox, setText),
-            CALL(FramelessMessageBox, text),
-            CALL(FramelessMessageBox, icon),
-            CALL(FramelessMessageBox, iconPixmap),
-            CALL(FramelessMessageBox, textFormat),
-            CALL(FramelessMessageBox, textInteractionFlags),
-            CALL(FramelessMessageBox, informativeText),
-            CALL(FramelessMessageBox, detailedText),
-            CALL(FramelessMessageBox, checkBox),
-            CALL(FramelessMessageBox, standardButtons),
-            CALL(FramelessMessageBox, defaultButton),
-            CALL(FramelessMessageBox, escapeButton),
-            CALL(FramelessMessageBox, clickedButton),
-            special<FramelessMessageBox>("buttonRole",
-                                         [](FramelessMessageBox *box, Source source) {
-                                             QAbstractButton *button = anyButton(box, source);
-                                             look(box->button(box->standardButton(button)));
-                                             box->buttonRole(button);
-                                         }),
-            CALL(FramelessMessageBox, setIcon),
-            CALL(FramelessMessageBox, setIconPixmap),
-            CALL(FramelessMessageBox, setTextFormat),
-            CALL(FramelessMessageBox, setTextInteractionFlags),
-            CALL(FramelessMessageBox, setInformativeText),
-            CALL(FramelessMessageBox, setDetailedText),
-            CALL(FramelessMessageBox, setWindowTitle),
-            CALL(FramelessMessageBox, setWindowModality),
-            CALL(FramelessMessageBox, setStandardButtons),
-            CALL(FramelessMessageBox, button),
-            CALL(FramelessMessageBox, retranslateButtonUi),
-            CALL_OVERLOAD(FramelessMessageBox, addButton, QMessageBox::StandardButton),
-            CALL_OVERLOAD(FramelessMessageBox, setDefaultButton, QMessageBox::StandardButton),
-            CALL_OVERLOAD(FramelessMessageBox, setEscapeButton, QMessageBox::StandardButton),
-            special<FramelessMessageBox>("addButton",
-                                         [](FramelessMessageBox *box, Source source) {
-                                             const auto role = draw<QMessageBox::ButtonRole>(source);
-                                             if (source.dice.oneIn(4))
-                                                 box->addButton(nullptr, role);
-                                             else if (source.dice.oneIn(3))
-                                                 box->addButton(anyButton(box, source), role);
-                                             else
-                                                 box->addButton(drawText(source.dice).left(40), role);
-                                         }),
-            special<FramelessMessageBox>("removeButton",
-                                         [](FramelessMessageBox *box, Source source) {
-                                             QAbstractButton *button = anyButton(box, source);
-                                             box->removeButton(button);
-                                             if (button)
-                                                 button->deleteLater();
-                                         }),
-            special<FramelessMessageBox>("setDefaultButton",
-                                         [](FramelessMessageBox *box, Source source) {
-                                             box->setDefaultButton(
-                                                 qobject_cast<QPushButton *>(anyButton(box, source)));
-                                             box->setEscapeButton(anyButton(box, source));
-                                         }),
-            special<FramelessMessageBox>("setCheckBox", [](FramelessMessageBox *box, Source source) {
-                box->setCheckBox(source.dice.oneIn(3) ? nullptr
-                                                      : new QCheckBox(drawText(source.dice).left(40)));
-            })};
+    return {
+        CALL(FramelessMessageBox, setText), CALL(FramelessMessageBox, text), CALL(FramelessMessageBox, icon),
+        CALL(FramelessMessageBox, iconPixmap), CALL(FramelessMessageBox, textFormat),
+        CALL(FramelessMessageBox, textInteractionFlags), CALL(FramelessMessageBox, informativeText),
+        CALL(FramelessMessageBox, detailedText), CALL(FramelessMessageBox, checkBox),
+        CALL(FramelessMessageBox, standardButtons), CALL(FramelessMessageBox, defaultButton),
+        CALL(FramelessMessageBox, escapeButton), CALL(FramelessMessageBox, clickedButton),
+        special<FramelessMessageBox>("buttonRole",
+                                     [](FramelessMessageBox *box, Source source) {
+                                         QAbstractButton *button = anyButton(box, source);
+                                         look(box->button(box->standardButton(button)));
+                                         box->buttonRole(button);
+                                     }),
+        CALL(FramelessMessageBox, setIcon), CALL(FramelessMessageBox, setIconPixmap),
+        CALL(FramelessMessageBox, setTextFormat), CALL(FramelessMessageBox, setTextInteractionFlags),
+        CALL(FramelessMessageBox, setInformativeText), CALL(FramelessMessageBox, setDetailedText),
+        CALL(FramelessMessageBox, setWindowTitle),
+        // On show it has no effect, and leaves Qt a modal window that is no more: a plain QDialog, too.
+        special<FramelessMessageBox>("setWindowModality",
+                                     [](FramelessMessageBox *box, Source source) {
+                                         const auto modality = draw<Qt::WindowModality>(source);
+                                         if (!box->isVisible())
+                                             box->setWindowModality(modality);
+                                     }),
+        CALL(FramelessMessageBox, setStandardButtons), CALL(FramelessMessageBox, button),
+        CALL(FramelessMessageBox, retranslateButtonUi),
+        CALL_OVERLOAD(FramelessMessageBox, addButton, QMessageBox::StandardButton),
+        CALL_OVERLOAD(FramelessMessageBox, setDefaultButton, QMessageBox::StandardButton),
+        CALL_OVERLOAD(FramelessMessageBox, setEscapeButton, QMessageBox::StandardButton),
+        special<FramelessMessageBox>("addButton",
+                                     [](FramelessMessageBox *box, Source source) {
+                                         const auto role = draw<QMessageBox::ButtonRole>(source);
+                                         if (source.dice.oneIn(4))
+                                             box->addButton(nullptr, role);
+                                         else if (source.dice.oneIn(3))
+                                             box->addButton(anyButton(box, source), role);
+                                         else
+                                             box->addButton(drawText(source.dice).left(40), role);
+                                     }),
+        special<FramelessMessageBox>("removeButton",
+                                     [](FramelessMessageBox *box, Source source) {
+                                         QAbstractButton *button = anyButton(box, source);
+                                         box->removeButton(button);
+                                         if (button)
+                                             button->deleteLater();
+                                     }),
+        special<FramelessMessageBox>("setDefaultButton",
+                                     [](FramelessMessageBox *box, Source source) {
+                                         box->setDefaultButton(
+                                             qobject_cast<QPushButton *>(anyButton(box, source)));
+                                         box->setEscapeButton(anyButton(box, source));
+                                     }),
+        special<FramelessMessageBox>("setCheckBox", [](FramelessMessageBox *box, Source source) {
+            box->setCheckBox(source.dice.oneIn(3) ? nullptr : new QCheckBox(drawText(source.dice).left(40)));
+        })};
 }
 
 QVector<Call> allCalls()

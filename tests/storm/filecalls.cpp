@@ -6,6 +6,7 @@
 #include "call.h"
 #include "stage.h"
 
+#include <QApplication>
 #include <QFileIconProvider>
 #include <QSortFilterProxyModel>
 #include <QStyledItemDelegate>
@@ -204,11 +205,12 @@ QVector<Call> framelessSetters()
                                          FramelessFileDialog::workingDirectory(drawUrl(source));
                                          FramelessFileDialog::initialSelection(drawUrl(source));
                                      }),
-        // Not while it is asked something. Its header says what the others do then.
+        // Not while it asks something, or has a menu open. Its header says what the others do then.
         special<FramelessFileDialog>("delete the inner dialog",
                                      [](FramelessFileDialog *dialog, Source source) {
                                          auto *inner = dialog->findChild<QFileDialog *>();
-                                         if (inner && source.dice.oneIn(4))
+                                         const bool isWished = source.dice.oneIn(4);
+                                         if (inner && isWished && !QApplication::activePopupWidget())
                                              inner->deleteLater();
                                      })};
 }
