@@ -19,6 +19,8 @@
 #include <QTabBar>
 #include <QTextEdit>
 #include <QToolButton>
+#include <utility>
+#include <vector>
 
 namespace Tarn::Benchmark {
 
@@ -26,23 +28,25 @@ namespace {
 
 using Copies = QHash<const QWidget *, QWidget *>;
 
-template <typename Widget> QWidget *makeIf(const QWidget &model, QWidget *parent)
+using Maker = QWidget *(*)(QWidget *parent);
+
+template <typename Widget> QWidget *makeWidget(QWidget *parent)
 {
-    return qobject_cast<const Widget *>(&model) ? new Widget(parent) : nullptr;
+    return new Widget(parent);
 }
 
-template <typename... Widgets> QWidget *makeFirst(const QWidget &model, QWidget *parent)
+template <typename... Widgets> Maker firstMaker(const QWidget &model)
 {
-    QWidget *made = nullptr;
-    ((made = made ? made : makeIf<Widgets>(model, parent)), ...);
-    return made;
+    Maker maker = nullptr;
+    ((maker = !maker && qobject_cast<const Widgets *>(&model) ? &makeWidget<Widgets> : maker), ...);
+    return maker;
 }
 
 /* Of the class of Qt's that the model derives from, among those that our widgets are made of. */
-QWidget *makePeer(const QWidget &model, QWidget *parent)
+Maker makerOfPeer(const QWidget &model)
 {
-    return makeFirst<QDialog, QDialogButtonBox, QCheckBox, QPushButton, QToolButton, QLabel, QLineEdit,
-                     QSpinBox, QTextEdit, QStackedWidget, QTabBar, QFrame, QWidget>(model, parent);
+    return firstMaker<QDialog, QDialogButtonBox, QCheckBox, QPushButton, QToolButton, QLabel, QLineEdit,
+                      QSpinBox, QTextEdit, QStackedWidget, QTabBar, QFrame, QWidget>(model);
 }
 
 /* What makes its own children. */
@@ -69,22 +73,6 @@ bool isCopied(const QMetaProperty &property)
         && name != "html";
 }
 
-void copyProperties(const QWidget &model, QWidget *copy)
-{
-    const QMetaObject *type = copy->metaObject();
-    for (int i = 0; i < type->propertyCount(); ++i) {
-        const QMetaProperty property = type->property(i);
-        const QVariant value = property.read(&model);
-        if (isCopied(property) && !isInherited(model, property.name()) && value != property.read(copy))
-            property.write(copy, value);
-    }
-    const auto names = model.dynamicPropertyNames();
-    for (const QByteArray &name : names) {
-        if (!name.startsWith("_q_"))
-            copy->setProperty(name.constData(), model.property(name.constData()));
-    }
-}
-
 void copyIcon(const QLabel *model, QWidget *copy)
 {
     if (model && !model->pixmap(Qt::ReturnByValue).isNull())
@@ -108,24 +96,6 @@ void copyContent(const QWidget &model, QWidget *copy)
     const auto validators = model.findChildren<QRegExpValidator *>(QString(), Qt::FindDirectChildrenOnly);
     for (const QRegExpValidator *validator : validators)
         new QRegExpValidator(validator->regExp(), copy);
-}
-
-void copyWidgets(const QWidget &model, QWidget *copy, Copies *copies)
-{
-    copies->insert(&model, copy);
-    copyProperties(model, copy);
-    copyContent(model, copy);
-    if (isWhole(model))
-        return;
-    const auto children = model.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    for (const QWidget *child : children) {
-        QWidget *peer = makePeer(*child, copy);
-        copyWidgets(*child, peer, copies);
-        if (child->isHidden() && child->testAttribute(Qt::WA_WState_ExplicitShowHide))
-            peer->hide();
-        if (auto *stack = qobject_cast<QStackedWidget *>(copy))
-            stack->addWidget(peer);
-    }
 }
 
 QLayout *copyLayout(QLayout *model, const Copies &copies);
@@ -189,15 +159,83 @@ void copyLayouts(const Copies &copies)
 
 } // namespace
 
-std::unique_ptr<QWidget> bareTree(const QWidget &model)
+/* One widget, and those in it that it does not make itself. */
+struct BareTree::Part
 {
-    std::unique_ptr<QWidget> tree(makePeer(model, nullptr));
-    tree->setWindowFlags(model.windowFlags());
-    tree->setAttribute(Qt::WA_TranslucentBackground, model.testAttribute(Qt::WA_TranslucentBackground));
+    explicit Part(const QWidget &original)
+        : model(original)
+        , maker(makerOfPeer(original))
+    {
+        const std::unique_ptr<QWidget> copy(maker(nullptr));
+        const QMetaObject *type = copy->metaObject();
+        for (int i = 0; i < type->propertyCount(); ++i) {
+            const QMetaProperty property = type->property(i);
+            const QVariant value = property.read(&model);
+            if (isCopied(property) && !isInherited(model, property.name())
+                && value != property.read(copy.get())) {
+                property.write(copy.get(), value); // others may follow it
+                properties.emplace_back(property, value);
+            }
+        }
+        const auto dynamicNames = model.dynamicPropertyNames();
+        for (const QByteArray &name : dynamicNames) {
+            if (!name.startsWith("_q_"))
+                names.emplace_back(name, model.property(name.constData()));
+        }
+        if (isWhole(model))
+            return;
+        const auto children = model.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        for (const QWidget *child : children)
+            parts.emplace_back(*child);
+    }
+
+    QWidget *make(QWidget *parent) const
+    {
+        return maker(parent);
+    }
+
+    void fill(QWidget *copy, Copies *copies) const
+    {
+        copies->insert(&model, copy);
+        for (const auto &[property, value] : properties)
+            property.write(copy, value);
+        for (const auto &[name, value] : names)
+            copy->setProperty(name.constData(), value);
+        copyContent(model, copy);
+        for (const Part &part : parts) {
+            QWidget *child = part.make(copy);
+            part.fill(child, copies);
+            if (part.model.isHidden() && part.model.testAttribute(Qt::WA_WState_ExplicitShowHide))
+                child->hide();
+            if (auto *stack = qobject_cast<QStackedWidget *>(copy))
+                stack->addWidget(child);
+        }
+    }
+
+    const QWidget &model;
+    const Maker maker;
+    std::vector<std::pair<QMetaProperty, QVariant>> properties;
+    std::vector<std::pair<QByteArray, QVariant>> names;
+    std::vector<Part> parts;
+};
+
+BareTree::BareTree(const QWidget &model)
+    : m_model(model)
+    , m_top(std::make_unique<Part>(model))
+{
+}
+
+BareTree::~BareTree() = default;
+
+std::unique_ptr<QWidget> BareTree::make() const
+{
+    std::unique_ptr<QWidget> tree(m_top->make(nullptr));
+    tree->setWindowFlags(m_model.windowFlags());
+    tree->setAttribute(Qt::WA_TranslucentBackground, m_model.testAttribute(Qt::WA_TranslucentBackground));
     Copies copies;
-    copyWidgets(model, tree.get(), &copies);
+    m_top->fill(tree.get(), &copies);
     copyLayouts(copies);
-    tree->resize(model.size());
+    tree->resize(m_model.size());
     return tree;
 }
 

@@ -3,7 +3,7 @@
 
 // ColorDialog against QColorDialog.
 
-#include "benchmark.h"
+#include "barelife.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -12,6 +12,7 @@
 #include <tarnwidgets/colordialog.h>
 #include <tarnwidgets/colorpicker.h>
 
+using Tarn::Benchmark::bareLife;
 using Tarn::Benchmark::Side;
 using Tarn::Benchmark::side;
 using Tarn::Widgets::ColorDialog;
@@ -131,7 +132,8 @@ int main(int argc, char **argv)
         argc, argv,
         {
             {"color-life", "the dialog made, shown, painted, closed, destroyed", 0.28,
-             side<Life<ColorDialog>>(), side<Life<QtDialog>>(), nullptr, true, 10},
+             side<Life<ColorDialog>>(), side<Life<QtDialog>>(), nullptr, true, 10, 20,
+             bareLife([] { return std::make_unique<ColorDialog>(QColor(InitialColor)); })},
             {"color-pixels", "the pixels of the field", 0.07, side<FieldOfTables>(), side<FieldOfColors>(),
              nullptr, true, 20},
             {"color-field", "one step of a drag over the field", 0.80, side<Drag<ColorDialog>>(field),

@@ -3,7 +3,7 @@
 
 // FramelessMessageBox against QMessageBox.
 
-#include "benchmark.h"
+#include "barelife.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -16,6 +16,7 @@
 #include <tarnwidgets/framelessdialog.h>
 #include <tarnwidgets/framelessmessagebox.h>
 
+using Tarn::Benchmark::bareLife;
 using Tarn::Benchmark::Side;
 using Tarn::Benchmark::side;
 using Tarn::Widgets::FramelessDialog;
@@ -58,6 +59,14 @@ public:
         showAndAccept(&box);
     }
 };
+
+std::unique_ptr<QWidget> makeFullBox()
+{
+    auto box = std::make_unique<FramelessMessageBox>(QMessageBox::Warning, QStringLiteral("Storage"),
+                                                     QStringLiteral("The storage is full."), QMessageBox::Ok);
+    addAllTexts(box.get());
+    return box;
+}
 
 template <typename Box> class FullLife : public Side
 {
@@ -169,7 +178,8 @@ int main(int argc, char **argv)
             {"message-bare", "the same against its bare widgets and layouts", 0.89,
              side<Life<FramelessMessageBox>>(), side<BareLife>(), nullptr, true, 20},
             {"message-full-life", "the same with icon, informative and detailed text", 0.39,
-             side<FullLife<FramelessMessageBox>>(), side<FullLife<QMessageBox>>(), nullptr, true, 10},
+             side<FullLife<FramelessMessageBox>>(), side<FullLife<QMessageBox>>(), nullptr, true, 10, 20,
+             bareLife(makeFullBox)},
             {"message-details", "details opened and closed", 0.22, side<Details<FramelessMessageBox>>(),
              side<Details<QMessageBox>>(), nullptr, true, 10},
         });

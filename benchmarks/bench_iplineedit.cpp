@@ -3,12 +3,13 @@
 
 // IPLineEdit against a line edit with an input mask.
 
-#include "benchmark.h"
+#include "barelife.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <tarnwidgets/iplineedit.h>
 
+using Tarn::Benchmark::bareLife;
 using Tarn::Benchmark::Side;
 using Tarn::Benchmark::side;
 using Tarn::Widgets::IPLineEdit;
@@ -90,6 +91,7 @@ int main(int argc, char **argv)
                                     {"address-type", "an address of 12 digits typed", 0.29,
                                      side<Type<IPLineEdit>>(), side<Type<MaskedEdit>>(), nullptr, false, 20},
                                     {"address-life", "an editor: made, shown, hidden, destroyed", 1.30,
-                                     side<Life<IPLineEdit>>(), side<Life<MaskedEdit>>(), nullptr, true, 20},
+                                     side<Life<IPLineEdit>>(), side<Life<MaskedEdit>>(), nullptr, true, 20,
+                                     20, bareLife([] { return std::make_unique<IPLineEdit>(); })},
                                 });
 }

@@ -26,7 +26,7 @@
 #include <tarnwidgets/limitedfiledialog.h>
 #include <tarnwidgets/tarntabwidget.h>
 
-using Tarn::Benchmark::bareTree;
+using Tarn::Benchmark::BareTree;
 using Tarn::Test::LiveHeap;
 using Tarn::Test::liveHeapWithoutPixels;
 using namespace Tarn::Widgets;
@@ -80,7 +80,8 @@ void compare(const char *name, const Make &ours, const Make &qt)
     const auto model = open(ours);
     measure(name, "ours", ours);
     measure(name, "qt", qt);
-    measure(name, "limit", [&model] { return bareTree(*model); });
+    const BareTree tree(*model);
+    measure(name, "limit", [&tree] { return tree.make(); });
 }
 
 std::unique_ptr<QWidget> makeButtonDialog()
