@@ -10,8 +10,6 @@
 #include <QResizeEvent>
 #include <QVariant>
 
-#include <utility>
-
 namespace Tarn::Widgets {
 
 class TabBarRdPrivate
@@ -20,7 +18,6 @@ public:
     TabBarRd::TabBarType m_type = TabBarRd::Normal;
     int m_nMinWidth = 0;
     int m_nMaxWidth = 0;
-    bool m_isHeld = false; // perhaps: nobody tells when it is let go
 };
 
 TabBarRd::TabBarRd(QWidget *parent)
@@ -93,12 +90,6 @@ void TabBarRd::resizeEvent(QResizeEvent *event)
     update();
 }
 
-void TabBarRd::mousePressEvent(QMouseEvent *event)
-{
-    d->m_isHeld = true;
-    QTabBar::mousePressEvent(event);
-}
-
 void TabBarRd::tabRemoved(int index)
 {
     QTabBar::tabRemoved(index);
@@ -109,8 +100,6 @@ void TabBarRd::tabRemoved(int index)
 // are taken away: it would paint a tab beyond the last.
 void TabBarRd::letGo()
 {
-    if (!std::exchange(d->m_isHeld, false))
-        return;
     const QPoint nowhere(-1, -1);
     QMouseEvent event(QEvent::MouseButtonRelease, nowhere, mapToGlobal(nowhere), Qt::LeftButton, Qt::NoButton,
                       Qt::NoModifier);
@@ -380,7 +369,8 @@ int TarnTabBar::addTab(const QIcon &icon, const QString &text)
 
 void TarnTabBar::removeTab(int index)
 {
-    d->m_pTabBar->letGo(); // afterwards the picture of the tab that is dragged would stay
+    if (index >= 0 && index < count())
+        d->m_pTabBar->letGo(); // afterwards the picture of the tab that is dragged would stay
     d->m_pTabBar->removeTab(index);
 }
 
