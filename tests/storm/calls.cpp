@@ -501,8 +501,12 @@ QVector<Call> messageBoxCalls()
                                      [](FramelessMessageBox *box, Source source) {
                                          QAbstractButton *button = anyButton(box, source);
                                          box->removeButton(button);
-                                         if (button)
+                                         if (button) {
+                                             // Qt would show it as a window of its own, if it was added just
+                                             // now.
+                                             QCoreApplication::removePostedEvents(button, QEvent::MetaCall);
                                              button->deleteLater();
+                                         }
                                      }),
         special<FramelessMessageBox>("setDefaultButton",
                                      [](FramelessMessageBox *box, Source source) {

@@ -15,6 +15,7 @@
 #include <QLocale>
 #include <QPainter>
 #include <QPixmap>
+#include <QPushButton>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QTranslator>
@@ -227,6 +228,17 @@ void look(Context &c)
     }
 }
 
+// To a button that it is given, QDialogButtonBox gives a style that it does not take back before it is
+// deleted.
+void takeStylesFromButtons()
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget *widget : widgets) {
+        if (qobject_cast<QPushButton *>(widget) && widget->testAttribute(Qt::WA_SetStyle))
+            widget->setStyle(nullptr);
+    }
+}
+
 void applicationLook(Context &c)
 {
     c.notes.about(qApp);
@@ -238,6 +250,7 @@ void applicationLook(Context &c)
         QApplication::setPalette(c.dice.oneIn(3) ? QPalette() : QPalette(drawColor(c.dice)));
         break;
     case 2:
+        takeStylesFromButtons();
         QApplication::setStyle(c.dice.pickOf(QStyleFactory::keys().toVector()));
         break;
     default:
