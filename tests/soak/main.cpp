@@ -43,21 +43,29 @@ void run(const Subject &subject, int rounds)
     }
 }
 
-/* Whether it keeps what it takes. */
-bool isSound(const Subject &subject, int rounds, QTextStream &out)
+LiveHeap grown(const Subject &subject, int rounds)
 {
-    run(subject, WarmingRounds);
     const LiveHeap before = liveHeap();
     run(subject, rounds);
     const LiveHeap after = liveHeap();
-    const long blocks = after.blocks - before.blocks;
-    const long bytes = after.bytes - before.bytes;
-    const bool isLeaking = blocks * Leaking >= rounds;
+    return {after.blocks - before.blocks, after.bytes - before.bytes};
+}
+
+/* Whether it gives back what it takes. */
+bool isSound(const Subject &subject, int rounds, QTextStream &out)
+{
+    run(subject, WarmingRounds);
+    LiveHeap kept = grown(subject, rounds);
+    const auto isLeak = [rounds](const LiveHeap &heap) { return heap.blocks * Leaking >= rounds; };
+    // A file dialog's thread that is late keeps all that it works on, though not from one time to the next.
+    if (isLeak(kept))
+        kept = grown(subject, rounds);
+    const bool isLeaking = isLeak(kept);
     out << QStringLiteral("%1 %2 %3 %4  %5\n")
                .arg(subject.name, -36)
                .arg(rounds, 8)
-               .arg(blocks, 8)
-               .arg(bytes, 10)
+               .arg(kept.blocks, 8)
+               .arg(kept.bytes, 10)
                .arg(QLatin1String(isLeaking ? "GROWS" : "flat"))
         << Qt::flush;
     return !isLeaking || !subject.isOurs;
