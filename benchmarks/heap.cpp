@@ -5,7 +5,7 @@
 // and how many more blocks there are after each further one has come and gone.
 
 #include "baretree.h"
-#include "support/liveheap.h"
+#include "soak/liveheap.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -27,8 +27,8 @@
 #include <tarnwidgets/tarntabwidget.h>
 
 using Tarn::Benchmark::BareTree;
-using Tarn::Test::LiveHeap;
-using Tarn::Test::liveHeapWithoutPixels;
+using Tarn::Soak::LiveHeap;
+using Tarn::Soak::liveHeapWithoutPixels;
 using namespace Tarn::Widgets;
 
 namespace {

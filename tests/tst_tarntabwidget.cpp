@@ -805,14 +805,16 @@ void tst_TarnTabWidget::removalWhileDraggingKeepsStep()
 
     const auto pictures = [bar] { // Qt shows the dragged tab as a child of the bar
         const auto children = bar->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-        return std::count_if(children.cbegin(), children.cend(), [](QWidget *child) { return child->isVisible(); });
+        return std::count_if(children.cbegin(), children.cend(),
+                             [](QWidget *child) { return child->isVisible(); });
     };
     QCOMPARE(int(pictures()), 1);
 
     // WHEN one is removed
     tabs.widget.removeTab(removed);
 
-    // THEN nothing is dragged any more, and the page on show is that of the tab that is selected, then and later
+    // THEN nothing is dragged any more, and the page on show is that of the tab that is selected, then and
+    // later
     QCOMPARE(int(pictures()), 0);
     QCOMPARE(tabs.names(), QStringLiteral("ACBDE").remove(removed, 1));
     QVERIFY(tabs.areInStep());

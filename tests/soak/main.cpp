@@ -7,8 +7,8 @@
 //
 // It fails if anything of ours keeps a block for each of so many rounds as Leaking says.
 
+#include "liveheap.h"
 #include "subjects.h"
-#include "support/liveheap.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -19,8 +19,6 @@
 #include <cstdlib>
 
 using namespace Tarn::Soak;
-using Tarn::Test::LiveHeap;
-using Tarn::Test::liveHeap;
 
 namespace {
 

@@ -98,7 +98,7 @@ __attribute__((visibility("default"))) void free(void *memory)
 }
 }
 
-namespace Tarn::Test {
+namespace Tarn::Soak {
 
 LiveHeap liveHeap()
 {
@@ -110,4 +110,4 @@ LiveHeap liveHeapWithoutPixels()
     return {small.blocks, small.bytes};
 }
 
-} // namespace Tarn::Test
+} // namespace Tarn::Soak
