@@ -369,8 +369,10 @@ int TarnTabBar::addTab(const QIcon &icon, const QString &text)
 
 void TarnTabBar::removeTab(int index)
 {
+    // After the removal the picture of a tab that is dragged, and a page that is not the current tab's, would
+    // stay.
     if (index >= 0 && index < count())
-        d->m_pTabBar->letGo(); // afterwards the picture of the tab that is dragged would stay
+        d->m_pTabBar->letGo();
     d->m_pTabBar->removeTab(index);
 }
 
