@@ -8,9 +8,20 @@
 #include <QIcon>
 #include <QMouseEvent>
 #include <QResizeEvent>
+#include <QSignalBlocker>
 #include <QVariant>
 
 namespace Tarn::Widgets {
+
+namespace {
+
+QMouseEvent leftButton(QEvent::Type type, const QWidget *widget, const QPoint &pos)
+{
+    const Qt::MouseButtons held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+    return QMouseEvent(type, pos, widget->mapToGlobal(pos), Qt::LeftButton, held, Qt::NoModifier);
+}
+
+} // namespace
 
 class TabBarRdPrivate
 {
@@ -94,16 +105,26 @@ void TabBarRd::tabRemoved(int index)
 {
     QTabBar::tabRemoved(index);
     letGo();
+    if (currentIndex() >= 0 || !isMovable())
+        return;
+    // Where no tab has the index of the one that was held, QTabBar takes it for held all the same: it selects
+    // no tab, and heeds no click, until one is held and let go.
+    const int last = count() - 1;
+    {
+        const QSignalBlocker blocker(this); // for nobody clicks
+        QMouseEvent press = leftButton(QEvent::MouseButtonPress, this, tabRect(last).center());
+        QTabBar::mousePressEvent(&press);
+        letGo();
+    }
+    setCurrentIndex(last);
 }
 
 // QTabBar keeps the index of the tab that is held, and while others slide aside it keeps it even when tabs
 // are taken away: it would paint a tab beyond the last.
 void TabBarRd::letGo()
 {
-    const QPoint nowhere(-1, -1);
-    QMouseEvent event(QEvent::MouseButtonRelease, nowhere, mapToGlobal(nowhere), Qt::LeftButton, Qt::NoButton,
-                      Qt::NoModifier);
-    QTabBar::mouseReleaseEvent(&event);
+    QMouseEvent release = leftButton(QEvent::MouseButtonRelease, this, QPoint(-1, -1));
+    QTabBar::mouseReleaseEvent(&release);
 }
 
 namespace {

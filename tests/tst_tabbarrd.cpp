@@ -385,16 +385,22 @@ void tst_TabBarRd::resizeRepaintsAll()
 
 void tst_TabBarRd::removalLetsTheDraggedTabGo_data()
 {
-    QTest::addColumn<QVector<int>>("removed"); // of three tabs, the second being dragged
-    QTest::newRow("the first") << QVector<int>({0});
-    QTest::newRow("the dragged one") << QVector<int>({1});
-    QTest::newRow("the first two") << QVector<int>({0, 0});
-    QTest::newRow("the last two") << QVector<int>({2, 1});
-    QTest::newRow("all") << QVector<int>({0, 0, 0});
+    QTest::addColumn<int>("from"); // of three tabs
+    QTest::addColumn<int>("to");
+    QTest::addColumn<QVector<int>>("removed");
+    QTest::newRow("the first") << 2 << 1 << QVector<int>({0});
+    QTest::newRow("the dragged one") << 2 << 1 << QVector<int>({1});
+    QTest::newRow("the first two") << 2 << 1 << QVector<int>({0, 0});
+    QTest::newRow("the last two") << 2 << 1 << QVector<int>({2, 1});
+    QTest::newRow("all") << 2 << 1 << QVector<int>({0, 0, 0});
+    QTest::newRow("one before the last, which is dragged") << 1 << 2 << QVector<int>({0});
+    QTest::newRow("the last, which is dragged") << 1 << 2 << QVector<int>({2});
 }
 
 void tst_TabBarRd::removalLetsTheDraggedTabGo()
 {
+    QFETCH(int, from);
+    QFETCH(int, to);
     QFETCH(QVector<int>, removed);
 
     // GIVEN a tab that has just passed another one, which is still on its way
@@ -403,15 +409,15 @@ void tst_TabBarRd::removalLetsTheDraggedTabGo()
     bar.setMovable(true);
     bar.show();
     QVERIFY(QTest::qWaitForWindowExposed(&bar));
-    const QPoint start = bar.tabRect(2).center();
-    const QPoint end = bar.tabRect(1).center();
+    const QPoint start = bar.tabRect(from).center();
+    const QPoint end = bar.tabRect(to).center();
     QTest::mousePress(&bar, Qt::LeftButton, Qt::NoModifier, start);
     for (const QPoint &pos : {(start + end) / 2, end}) {
         QMouseEvent move(QEvent::MouseMove, pos, bar.mapToGlobal(pos), Qt::NoButton, Qt::LeftButton,
                          Qt::NoModifier);
         QApplication::sendEvent(&bar, &move);
     }
-    QCOMPARE(bar.tabText(1), QStringLiteral("TabTabTab"));
+    QCOMPARE(bar.tabText(to), QStringLiteral("Tab").repeated(from + 1));
     const QString left = [&] {
         QStringList texts({bar.tabText(0), bar.tabText(1), bar.tabText(2)});
         for (const int index : removed)
@@ -436,6 +442,12 @@ void tst_TabBarRd::removalLetsTheDraggedTabGo()
         texts.append(bar.tabText(index));
     QCOMPARE(texts.join(QLatin1Char(' ')), left);
     QTest::mouseRelease(&bar, Qt::LeftButton, Qt::NoModifier, end);
+
+    // AND a tab can be chosen
+    for (int index = 0; index < bar.count(); ++index) {
+        QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, bar.tabRect(index).center());
+        QCOMPARE(bar.currentIndex(), index);
+    }
 }
 
 QTEST_MAIN(tst_TabBarRd)
