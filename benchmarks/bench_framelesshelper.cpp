@@ -330,7 +330,7 @@ int main(int argc, char **argv)
              side<Drag<ManagedWidget<999>>>(InTitle), handmadeMove},
             {"helper-unwanted", "a key press, which the helper leaves alone", 1.09, side<KeyPress<Managed>>(),
              side<KeyPress<Idle>>()},
-            {"helper-take", "a widget taken and released", 0.75, side<TakeAndRelease>(),
+            {"helper-take", "a widget taken and released", 0.60, side<TakeAndRelease>(),
              side<FilterAndRelease>()},
         });
 }

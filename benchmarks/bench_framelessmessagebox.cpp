@@ -172,15 +172,15 @@ int main(int argc, char **argv)
     return Tarn::Benchmark::run(
         argc, argv,
         {
-            {"message-life", "a message with OK: made, shown, painted, clicked, destroyed", 1.27,
+            {"message-life", "a message with OK: made, shown, painted, clicked, destroyed", 1.15,
              side<Life<FramelessMessageBox>>(), side<Life<QMessageBox>>(), nullptr, true, 20, 20,
              side<BareLife>()},
             {"message-bare", "the same against its bare widgets and layouts", 0.89,
              side<Life<FramelessMessageBox>>(), side<BareLife>(), nullptr, true, 20},
-            {"message-full-life", "the same with icon, informative and detailed text", 0.39,
+            {"message-full-life", "the same with icon, informative and detailed text", 0.33,
              side<FullLife<FramelessMessageBox>>(), side<FullLife<QMessageBox>>(), nullptr, true, 10, 20,
              bareLife(makeFullBox)},
-            {"message-details", "details opened and closed", 0.22, side<Details<FramelessMessageBox>>(),
+            {"message-details", "details opened and closed", 0.13, side<Details<FramelessMessageBox>>(),
              side<Details<QMessageBox>>(), nullptr, true, 10},
         });
 }

@@ -137,7 +137,7 @@ int main(int argc, char **argv)
              side<Switch<PlainTabs>>(10)},
             {"pages-switch-100", "one switch among 100 pages", 0.85, side<Switch<TarnTabWidget>>(100),
              side<Switch<PlainTabs>>(100), nullptr, false, 50},
-            {"pages-switch-1000", "one switch among 1000 pages", 0.98, side<Switch<TarnTabWidget>>(1000),
+            {"pages-switch-1000", "one switch among 1000 pages", 0.97, side<Switch<TarnTabWidget>>(1000),
              side<Switch<PlainTabs>>(1000), nullptr, false, 10, 10},
         });
 }

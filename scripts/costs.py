@@ -60,7 +60,7 @@ class Heap(NamedTuple):
     kept: int  # more blocks of ours than of Qt's after some have come and gone
 
     def is_met(self):
-        return not self.limit or round(self.ours / self.limit, 2) <= HEAP_GOAL
+        return not self.limit or round(self.ours / self.limit, 3) <= HEAP_GOAL
 
 
 class Allocations(NamedTuple):
@@ -197,7 +197,7 @@ def heap_table():
     lines = ["| Row | Open is | Ours | Qt's | Limit | Ours to limit | Goal | |", "|---|---|---|---|---|---|---|---|"]
     for heap in heaps:
         limit = f"{heap.limit} in {heap.limit_blocks}" if heap.limit else ""
-        ratio = f"{heap.ours / heap.limit:.2f}" if heap.limit else ""
+        ratio = f"{heap.ours / heap.limit:.3f}" if heap.limit else ""
         lines.append(f"| `{heap.name}` | {HEAP_WORK[heap.name]} | {heap.ours} in {heap.ours_blocks} | "
                      f"{heap.qt} in {heap.qt_blocks} | {limit} | {ratio} | {HEAP_GOAL if heap.limit else ''} | "
                      f"{('met' if heap.is_met() else 'missed') if heap.limit else ''} |")
