@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFile>
+#include <QPixmapCache>
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <algorithm>
@@ -89,6 +90,8 @@ int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    // Icons are painted from there, and each file dialog has new ones.
+    QPixmapCache::setCacheLimit(0);
     // What the file dialog says of each choice
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
 

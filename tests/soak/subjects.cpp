@@ -44,6 +44,7 @@ void use(QWidget *widget)
     QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, QPoint(widget->width() / 2, 3));
     QWidget *focused = widget->focusWidget();
     QTest::keyClick(focused ? focused : widget, Qt::Key_Right);
+    QCoreApplication::processEvents(); // so that it is painted, too
 }
 
 /* Does something with the next modal dialog, from its event loop. */
