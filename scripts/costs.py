@@ -169,7 +169,7 @@ def check(rows, names):
     before = {row.name: row for row in reference if not is_large(row.name) and (not names or row.name in names)}
     now = {row.name: row for row in rows}
     failed = False
-    for name in sorted(before.keys() | now.keys()):
+    for name in sorted({*before, *now, *names}):
         if name not in before or name not in now:
             print(f"{name}: {'not in the reference' if name in now else 'no such benchmark any more'}")
             failed = True
