@@ -21,6 +21,15 @@ QMouseEvent leftButton(QEvent::Type type, const QWidget *widget, const QPoint &p
     return QMouseEvent(type, pos, widget->mapToGlobal(pos), Qt::LeftButton, held, Qt::NoModifier);
 }
 
+/* -1 if all are hidden. */
+int lastVisibleTab(const QTabBar &bar)
+{
+    int index = bar.count() - 1;
+    while (index >= 0 && !bar.isTabVisible(index))
+        --index;
+    return index;
+}
+
 } // namespace
 
 class TabBarRdPrivate
@@ -29,6 +38,7 @@ public:
     TabBarRd::TabBarType m_type = TabBarRd::Normal;
     int m_nMinWidth = 0;
     int m_nMaxWidth = 0;
+    bool m_isHeld = false; // a tab, with the left button
 };
 
 TabBarRd::TabBarRd(QWidget *parent)
@@ -101,30 +111,63 @@ void TabBarRd::resizeEvent(QResizeEvent *event)
     update();
 }
 
-void TabBarRd::tabRemoved(int index)
+void TabBarRd::mousePressEvent(QMouseEvent *event)
 {
-    QTabBar::tabRemoved(index);
-    letGo();
-    if (currentIndex() >= 0 || !isMovable())
-        return;
-    // Where no tab has the index of the one that was held, QTabBar takes it for held all the same: it selects
-    // no tab, and heeds no click, until one is held and let go.
-    const int last = count() - 1;
-    {
-        const QSignalBlocker blocker(this); // for nobody clicks
-        QMouseEvent press = leftButton(QEvent::MouseButtonPress, this, tabRect(last).center());
-        QTabBar::mousePressEvent(&press);
-        letGo();
+    if (event->button() == Qt::LeftButton) {
+        letGo(); // what could not be let go while all tabs were hidden
+        d->m_isHeld = tabAt(event->pos()) >= 0;
     }
-    setCurrentIndex(last);
+    QTabBar::mousePressEvent(event);
+}
+
+void TabBarRd::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton) {
+        // A tab stays current while it is dragged, even when it is hidden.
+        if (isTabVisible(currentIndex()))
+            d->m_isHeld = false;
+        else
+            letGo();
+    }
+    QTabBar::mouseReleaseEvent(event);
 }
 
 // QTabBar keeps the index of the tab that is held, and while others slide aside it keeps it even when tabs
 // are taken away: it would paint a tab beyond the last.
+void TabBarRd::tabRemoved(int index)
+{
+    QTabBar::tabRemoved(index);
+    letGo();
+}
+
+// QTabBar divides by the width of the tab that is let go, which none has that is hidden or gone: the bar is
+// made to forget it, as one does whose tabs cannot be moved. What is left of the drag, such as the picture of
+// the tab, and a current tab that cannot be changed, goes with the next tab that is held and let go.
 void TabBarRd::letGo()
 {
-    QMouseEvent release = leftButton(QEvent::MouseButtonRelease, this, QPoint(-1, -1));
-    QTabBar::mouseReleaseEvent(&release);
+    if (!d->m_isHeld)
+        return;
+    const auto release = [this] {
+        QMouseEvent event = leftButton(QEvent::MouseButtonRelease, this, QPoint(-1, -1));
+        QTabBar::mouseReleaseEvent(&event);
+    };
+    const bool wasMovable = isMovable();
+    setMovable(false);
+    release();
+    setMovable(wasMovable);
+
+    const int current = currentIndex();
+    const int index = isTabVisible(current) ? current : lastVisibleTab(*this);
+    if (index < 0)
+        return;
+    d->m_isHeld = false;
+    {
+        const QSignalBlocker blocker(this); // for nobody clicks
+        QMouseEvent press = leftButton(QEvent::MouseButtonPress, this, tabRect(index).center());
+        QTabBar::mousePressEvent(&press);
+        release();
+    }
+    setCurrentIndex(index);
 }
 
 namespace {

@@ -3,6 +3,7 @@
 
 #include "support/functionguard.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QBoxLayout>
 #include <QMetaEnum>
@@ -10,6 +11,7 @@
 #include <QRegion>
 #include <QStyle>
 #include <QTest>
+#include <algorithm>
 #include <optional>
 #include <tarnwidgets/tarntabbar.h>
 
@@ -44,6 +46,40 @@ void addTabs(QTabBar *bar, int count)
 {
     for (int index = 0; index < count; ++index)
         bar->addTab(QStringLiteral("Tab").repeated(index + 1));
+}
+
+void dragOn(QTabBar *bar, const QPoint &pos)
+{
+    QMouseEvent move(QEvent::MouseMove, pos, bar->mapToGlobal(pos), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(bar, &move);
+}
+
+/* Drags a tab over another one, which makes way, and holds it there. */
+void drag(QTabBar *bar, int from, int to)
+{
+    const QPoint start = bar->tabRect(from).center();
+    const QPoint end = bar->tabRect(to).center();
+    QTest::mousePress(bar, Qt::LeftButton, Qt::NoModifier, start);
+    dragOn(bar, (start + end) / 2);
+    dragOn(bar, end);
+}
+
+QStringList tabTexts(const QTabBar &bar)
+{
+    QStringList texts;
+    for (int index = 0; index < bar.count(); ++index)
+        texts.append(bar.tabText(index));
+    return texts;
+}
+
+/* The picture of a dragged tab is a child of the bar. */
+bool showsDraggedTab(const QTabBar &bar)
+{
+    const QList<QWidget *> children = bar.findChildren<QWidget *>();
+    return std::any_of(children.cbegin(), children.cend(), [](const QWidget *child) {
+        return child->isVisible() && !qobject_cast<const QAbstractButton *>(child);
+    });
 }
 
 QVector<int> tabWidths(const QTabBar &bar)
@@ -96,6 +132,9 @@ private Q_SLOTS:
     void resizeRepaintsAll();
     void removalLetsTheDraggedTabGo_data();
     void removalLetsTheDraggedTabGo();
+    void draggedTabMayBeHidden_data();
+    void draggedTabMayBeHidden();
+    void hiddenTabMayTakeThePlaceOfTheDragged();
 
 private:
     std::optional<FunctionGuard> m_guard;
@@ -409,21 +448,12 @@ void tst_TabBarRd::removalLetsTheDraggedTabGo()
     bar.setMovable(true);
     bar.show();
     QVERIFY(QTest::qWaitForWindowExposed(&bar));
-    const QPoint start = bar.tabRect(from).center();
     const QPoint end = bar.tabRect(to).center();
-    QTest::mousePress(&bar, Qt::LeftButton, Qt::NoModifier, start);
-    for (const QPoint &pos : {(start + end) / 2, end}) {
-        QMouseEvent move(QEvent::MouseMove, pos, bar.mapToGlobal(pos), Qt::NoButton, Qt::LeftButton,
-                         Qt::NoModifier);
-        QApplication::sendEvent(&bar, &move);
-    }
+    drag(&bar, from, to);
     QCOMPARE(bar.tabText(to), QStringLiteral("Tab").repeated(from + 1));
-    const QString left = [&] {
-        QStringList texts({bar.tabText(0), bar.tabText(1), bar.tabText(2)});
-        for (const int index : removed)
-            texts.removeAt(index);
-        return texts.join(QLatin1Char(' '));
-    }();
+    QStringList left = tabTexts(bar);
+    for (const int index : removed)
+        left.removeAt(index);
 
     // WHEN tabs are removed
     for (const int index : removed)
@@ -433,18 +463,81 @@ void tst_TabBarRd::removalLetsTheDraggedTabGo()
     bar.painted = QRegion();
     bar.repaint();
     QVERIFY(!bar.painted.isEmpty());
-    const QPoint further = bar.rect().bottomRight() * 2;
-    QMouseEvent move(QEvent::MouseMove, further, bar.mapToGlobal(further), Qt::NoButton, Qt::LeftButton,
-                     Qt::NoModifier);
-    QApplication::sendEvent(&bar, &move);
-    QStringList texts;
-    for (int index = 0; index < bar.count(); ++index)
-        texts.append(bar.tabText(index));
-    QCOMPARE(texts.join(QLatin1Char(' ')), left);
+    QVERIFY(!showsDraggedTab(bar));
+    dragOn(&bar, bar.rect().bottomRight() * 2);
+    QCOMPARE(tabTexts(bar), left);
     QTest::mouseRelease(&bar, Qt::LeftButton, Qt::NoModifier, end);
 
     // AND a tab can be chosen
     for (int index = 0; index < bar.count(); ++index) {
+        QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, bar.tabRect(index).center());
+        QCOMPARE(bar.currentIndex(), index);
+    }
+}
+
+void tst_TabBarRd::draggedTabMayBeHidden_data()
+{
+    QTest::addColumn<QVector<int>>("hidden"); // of three tabs
+    QTest::newRow("it alone") << QVector<int>({1});
+    QTest::newRow("and those behind it") << QVector<int>({1, 2});
+    QTest::newRow("with all others") << QVector<int>({0, 1, 2});
+}
+
+// QTabBar itself divides by the width that the tab no longer has.
+void tst_TabBarRd::draggedTabMayBeHidden()
+{
+    QFETCH(QVector<int>, hidden);
+
+    // GIVEN a tab that has just passed another one
+    Bar bar;
+    addTabs(&bar, 3);
+    bar.setMovable(true);
+    bar.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bar));
+    drag(&bar, 0, 1);
+    QCOMPARE(bar.tabText(1), QStringLiteral("Tab"));
+    QVERIFY(showsDraggedTab(bar));
+    const QStringList texts = tabTexts(bar);
+
+    // WHEN it is hidden and then let go
+    for (const int index : hidden)
+        bar.setTabVisible(index, false);
+    bar.repaint();
+    QTest::mouseRelease(&bar, Qt::LeftButton, Qt::NoModifier, bar.rect().center());
+
+    // THEN a tab that can be seen is current, and each of them can be chosen
+    QCOMPARE(bar.isTabVisible(bar.currentIndex()), hidden.size() < bar.count());
+    QCOMPARE(showsDraggedTab(bar), hidden.size() == bar.count());
+    QCOMPARE(tabTexts(bar), texts);
+    for (const int index : hidden)
+        bar.setTabVisible(index, true);
+    for (int index = 0; index < bar.count(); ++index) {
+        QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, bar.tabRect(index).center());
+        QCOMPARE(bar.currentIndex(), index);
+    }
+    QVERIFY(!showsDraggedTab(bar));
+}
+
+void tst_TabBarRd::hiddenTabMayTakeThePlaceOfTheDragged()
+{
+    // GIVEN a dragged tab with a hidden one behind it
+    Bar bar;
+    addTabs(&bar, 4);
+    bar.setTabVisible(2, false);
+    bar.setMovable(true);
+    bar.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bar));
+    drag(&bar, 0, 1);
+    QCOMPARE(bar.tabText(1), QStringLiteral("Tab"));
+
+    // WHEN it is removed
+    bar.removeTab(1);
+    QTest::mouseRelease(&bar, Qt::LeftButton, Qt::NoModifier, bar.rect().center());
+
+    // THEN nothing is left of the drag
+    QVERIFY(!showsDraggedTab(bar));
+    QVERIFY(bar.isTabVisible(bar.currentIndex()));
+    for (const int index : {0, 2}) {
         QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, bar.tabRect(index).center());
         QCOMPARE(bar.currentIndex(), index);
     }
