@@ -19,6 +19,8 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <cstdio>
+#include <limits>
+#include <optional>
 
 using namespace Tarn::Storm;
 
@@ -49,19 +51,18 @@ void stopTheClock()
     QApplication::setQuitOnLastWindowClosed(false);
 }
 
-quint64 wishedSeed(const QString &option)
+// The option, else the variable, else the number that is given; nothing if that is none.
+std::optional<quint64> wishedNumber(const QString &option, const char *variable, int least, quint64 other)
 {
-    const QString wished = option.isEmpty() ? qEnvironmentVariable("TARN_TEST_SEED") : option;
+    const QString wished = option.isEmpty() ? qEnvironmentVariable(variable) : option;
+    if (wished.isEmpty())
+        return other;
     bool isNumber = false;
-    const quint64 seed = wished.toULongLong(&isNumber);
-    return isNumber ? seed : QRandomGenerator::system()->generate();
-}
-
-int wishedSteps(const QString &option)
-{
-    const QString wished = option.isEmpty() ? qEnvironmentVariable("TARN_TEST_STEPS") : option;
-    const int steps = wished.toInt();
-    return steps > 0 ? steps : DefaultSteps;
+    const quint64 number = wished.toULongLong(&isNumber);
+    if (isNumber && number >= quint64(least))
+        return number;
+    std::fprintf(stderr, "%s is no number of %d at least\n", qPrintable(wished), least);
+    return std::nullopt;
 }
 
 // The scene's name, the seed and the step numbers, apart from comments.
@@ -78,10 +79,32 @@ bool readReplay(const QString &path, QString &scene, Course &course)
     if (words.size() < 3)
         return false;
     scene = words.takeFirst();
-    course.seed = words.takeFirst().toULongLong();
-    for (const QString &word : qAsConst(words))
-        course.only.append(word.toInt());
-    return true;
+    bool isNumber = false;
+    course.seed = words.takeFirst().toULongLong(&isNumber);
+    for (const QString &word : qAsConst(words)) {
+        const int former = course.only.isEmpty() ? -1 : course.only.constLast();
+        bool isStep = false;
+        course.only.append(word.toInt(&isStep));
+        isNumber = isNumber && isStep && course.only.constLast() > former;
+    }
+    return isNumber;
+}
+
+void addOptions(QCommandLineParser &parser)
+{
+    parser.addHelpOption();
+    const auto add = [&parser](const char *name, const char *text, const char *value = "") {
+        parser.addOption({QString::fromLatin1(name), QString::fromLatin1(text), QString::fromLatin1(value)});
+    };
+    add("seed", "Repeats the run of this seed; else TARN_TEST_SEED, else a new one.", "number");
+    add("events", "Steps of all scenes together; else TARN_TEST_STEPS.", "number");
+    add("scene", "One scene only.", "name");
+    add("replay", "Only the steps that a file lists, each printed.", "file");
+    add("tell", "Prints each step.");
+    add("trail", "Where to keep the place, for when the program dies.", "file");
+    add("tally", "Prints how often each thing was done.");
+    add("reach", "Fails if there is anything that was never done.");
+    add("list", "Prints the scenes.");
 }
 
 int runAll(const QString &only, const Course &course, Trail &trail)
@@ -131,20 +154,12 @@ int main(int argc, char *argv[])
                         QStringLiteral(TARN_THEMES_DIR)); // as the themes have it
 
     QCommandLineParser parser;
-    parser.addHelpOption();
-    const auto add = [&parser](const char *name, const char *text, const char *value = "") {
-        parser.addOption({QString::fromLatin1(name), QString::fromLatin1(text), QString::fromLatin1(value)});
-    };
-    add("seed", "Repeats the run of this seed; else TARN_TEST_SEED, else a new one.", "number");
-    add("events", "Steps of all scenes together; else TARN_TEST_STEPS.", "number");
-    add("scene", "One scene only.", "name");
-    add("replay", "Only the steps that a file lists, each printed.", "file");
-    add("tell", "Prints each step.");
-    add("trail", "Where to keep the place, for when the program dies.", "file");
-    add("tally", "Prints how often each thing was done.");
-    add("reach", "Fails if there is anything that was never done.");
-    add("list", "Prints the scenes.");
-    parser.process(app);
+    addOptions(parser);
+    if (!parser.parse(QCoreApplication::arguments()) || !parser.positionalArguments().isEmpty()) {
+        std::fprintf(stderr, "%s\n%s", qPrintable(parser.errorText()), qPrintable(parser.helpText()));
+        return 2;
+    }
+    parser.process(app); // which knows what to do with --help
 
     const auto value = [&parser](const char *name) { return parser.value(QString::fromLatin1(name)); };
     if (parser.isSet(QStringLiteral("list"))) {
@@ -155,8 +170,13 @@ int main(int argc, char *argv[])
     }
     Course course;
     QString scene = value("scene");
-    course.seed = wishedSeed(value("seed"));
-    course.steps = wishedSteps(value("events"));
+    const auto seed =
+        wishedNumber(value("seed"), "TARN_TEST_SEED", 0, QRandomGenerator::system()->generate());
+    const auto steps = wishedNumber(value("events"), "TARN_TEST_STEPS", 1, DefaultSteps);
+    if (!seed || !steps)
+        return 2;
+    course.seed = *seed;
+    course.steps = int(qMin(*steps, quint64(std::numeric_limits<int>::max())));
     course.isTold = parser.isSet(QStringLiteral("tell")) || parser.isSet(QStringLiteral("replay"));
     if (parser.isSet(QStringLiteral("replay"))
         && !readReplay(start.filePath(value("replay")), scene, course)) {
