@@ -24,6 +24,7 @@ using namespace Tarn::Soak;
 namespace {
 
 constexpr int DefaultRounds = 200;
+constexpr int WrongUse = 2; // exit code
 
 // What is filled once and kept is filled by then.
 constexpr int WarmingRounds = 40;
@@ -117,7 +118,7 @@ int main(int argc, char **argv)
             << QStringLiteral("Rounds are a number of %1 at least, names of these:\n").arg(Leaking);
         for (const Subject &subject : all)
             QTextStream(stderr) << QStringLiteral("    %1\n").arg(subject.name);
-        return EXIT_FAILURE;
+        return WrongUse;
     }
 
     QTextStream out(stdout);
