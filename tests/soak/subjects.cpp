@@ -161,6 +161,12 @@ void openMessageBox()
     box.close();
 }
 
+bool isOfFiles(const Test::ModalKind &kind)
+{
+    const QByteArray name = kind.name;
+    return name.contains("File") || name.contains("Directory");
+}
+
 QVector<Subject> ourWidgets()
 {
     return {{QStringLiteral("FramelessWindow"), true, showWindow<FramelessWindow>},
@@ -205,19 +211,24 @@ QVector<Subject> subjects(const QString &folder)
     QVector<Subject> all;
     const QVector<Test::ModalKind> kinds = Test::modalKinds(folder);
     for (const Test::ModalKind &kind : kinds)
-        all.append(
-            {QString::fromLatin1(kind.name), true, asking(kind.run, kind.accept, kind.isLeftToParent)});
+        all.append({QString::fromLatin1(kind.name), true, asking(kind.run, kind.accept, kind.isLeftToParent),
+                    isOfFiles(kind)});
     return all + ourWidgets() + qtWidgets();
 }
 
-Subject losing()
+QVector<Subject> leaking()
 {
-    const auto round = [] {
+    const auto lose = [] {
         showWindow<QWidget>();
         auto *lost = new QObject; // NOLINT: on purpose
         Q_UNUSED(lost)
     };
-    return {QStringLiteral("losing"), true, round};
+    const auto grow = [] {
+        showWindow<QWidget>();
+        static QVector<void *> kept;
+        kept.append(nullptr);
+    };
+    return {{QStringLiteral("losing"), true, lose}, {QStringLiteral("growing"), true, grow}};
 }
 
 } // namespace Tarn::Soak
