@@ -1,15 +1,18 @@
 // SPDX-FileCopyrightText: 2026 the tarnwidgets developers
 // SPDX-License-Identifier: MIT
 
-// Paths of any kind for a strict file dialog on folders with links. A walk of this file's own over the links,
-// and realpath(), say where they lead.
+// Paths of any kind for file dialogs on folders with links, a strict one and one that is not. For the strict
+// one a walk of this file's own over the links, and realpath(), say where they lead.
 
 #include "fuzzsupport.h"
 
+#include <QAbstractButton>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <climits>
 #include <cstdlib>
 #include <optional>
@@ -128,23 +131,34 @@ bool isPermitted(const Tree &tree, const QString &path)
     return false;
 }
 
-} // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+LimitedFileDialog *makeDialog(const Tree &tree, bool isStrict)
 {
-    static const Tree tree;
-    static LimitedFileDialog *const dialog = [] {
-        auto *strict = new LimitedFileDialog(nullptr, QString(), tree.at("r"));
-        strict->setStrict(true);
-        strict->setLimitedPath1(tree.at("s"));
-        strict->setLimitedPath(tree.at("r"));
-        return strict;
-    }();
+    auto *dialog = new LimitedFileDialog(nullptr, QString(), tree.at("r"));
+    dialog->setStrict(isStrict);
+    dialog->setLimitedPath1(tree.at("s"));
+    dialog->setLimitedPath(tree.at("r"));
+    return dialog;
+}
 
-    Input input(data, size);
-    static constexpr const char *Bases[] = {"r/", "", "o/", "s"};
-    const int base = input.below(5);
-    const QString path = (base < 4 ? tree.at(Bases[base]) : QString()) + input.text();
+/* Whether the dialog lets the user accept that text. */
+bool isAcceptable(LimitedFileDialog *dialog, const QString &typed)
+{
+    const auto *box = dialog->findChild<QDialogButtonBox *>();
+    QAbstractButton *button = box->buttons().constFirst();
+    button->setEnabled(true);
+    dialog->checkLineEdit(typed);
+    return button->isEnabled();
+}
+
+/* What a typed text names, seen from r. */
+QString named(const Tree &tree, const QString &typed)
+{
+    return QDir(typed).isRelative() ? QDir::cleanPath(tree.at("r/") + typed) : typed;
+}
+
+void checkStrict(const Tree &tree, const QString &path)
+{
+    static LimitedFileDialog *const dialog = makeDialog(tree, true);
     const bool isInside = dialog->pathFits(path);
     if (path.contains(QChar::Null) || path.isEmpty()) {
         require(!isInside, "what is no path is not permitted");
@@ -159,5 +173,40 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     } else {
         require(!isInside, "what begins elsewhere is not permitted");
     }
+    if (isAcceptable(dialog, path))
+        require(isPermitted(tree, named(tree, path)), "what is typed and may be accepted is inside");
+}
+
+/* Texts are compared: a folder itself is not inside, one whose name goes on is, and behind the name of an
+ * entry any one character may stand. */
+void checkTexts(const Tree &tree, const QString &path)
+{
+    static LimitedFileDialog *const dialog = makeDialog(tree, false);
+    const QStringList roots{tree.at("r"), tree.at("s")};
+    const auto withSlashes = [](QString text) { return text.replace(QLatin1Char('\\'), QLatin1Char('/')); };
+    const auto isBelow = [&](const QString &text) {
+        return std::any_of(roots.cbegin(), roots.cend(), [&](const QString &root) {
+            return text.size() > root.size() && withSlashes(text).startsWith(root);
+        });
+    };
+    require(dialog->pathFits(path) == isBelow(path), "what begins like a folder is inside");
+    require(isAcceptable(dialog, path) == isBelow(named(tree, path)), "what is typed is judged alike");
+    const QString entry = withSlashes(path);
+    const int length = roots.constFirst().size();
+    const bool isEntry = entry.size() <= length + 1 && roots.contains(entry.left(length));
+    require(dialog->isShowInComboBox(path) == isEntry, "the entries are the two folders");
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    static const Tree tree;
+    Input input(data, size);
+    static constexpr const char *Bases[] = {"r/", "", "o/", "s"};
+    const int base = input.below(5);
+    const QString path = (base < 4 ? tree.at(Bases[base]) : QString()) + input.text();
+    checkStrict(tree, path);
+    checkTexts(tree, path);
     return 0;
 }
