@@ -362,6 +362,44 @@ bool isBare(const TarnTabBar *bar)
     return !qobject_cast<TarnTabWidget *>(bar->parentWidget());
 }
 
+bool isBare(const TabBarRd *bar)
+{
+    return !qobject_cast<TarnTabBar *>(bar->parentWidget());
+}
+
+/* What the bar has of QTabBar, as a program calls it while tabs are dragged, too. */
+QVector<Call> plainTabSpecials()
+{
+    return {special<TabBarRd>("QTabBar::insertTab",
+                              [](TabBarRd *bar, Source source) {
+                                  const int place = drawNumber(source.dice);
+                                  if (isBare(bar))
+                                      bar->insertTab(place, drawText(source.dice));
+                              }),
+            special<TabBarRd>("QTabBar::removeTab",
+                              [](TabBarRd *bar, Source source) {
+                                  const int place = drawNumber(source.dice);
+                                  if (isBare(bar))
+                                      bar->removeTab(place);
+                              }),
+            special<TabBarRd>("QTabBar::moveTab",
+                              [](TabBarRd *bar, Source source) {
+                                  const int from = drawNumber(source.dice);
+                                  const int to = drawNumber(source.dice);
+                                  if (isBare(bar))
+                                      bar->moveTab(from, to);
+                              }),
+            special<TabBarRd>("QTabBar::setTabVisible",
+                              [](TabBarRd *bar, Source source) {
+                                  bar->setTabVisible(source.dice.below(5), source.dice.oneIn(2));
+                              }),
+            special<TabBarRd>(
+                "QTabBar::setCurrentIndex",
+                [](TabBarRd *bar, Source source) { bar->setCurrentIndex(drawNumber(source.dice)); }),
+            special<TabBarRd>("QTabBar::setMovable",
+                              [](TabBarRd *bar, Source source) { bar->setMovable(source.dice.oneIn(2)); })};
+}
+
 QVector<Call> tabSpecials()
 {
     return {
@@ -522,7 +560,8 @@ QVector<Call> messageBoxCalls()
 QVector<Call> allCalls()
 {
     return titleBarCalls() + dialogCalls() + windowCalls() + helperCalls() + addressCalls()
-        + buttonAndLineCalls() + tabCalls() + tabSpecials() + messageBoxCalls() + fileDialogCalls();
+        + buttonAndLineCalls() + tabCalls() + tabSpecials() + plainTabSpecials() + messageBoxCalls()
+        + fileDialogCalls();
 }
 
 const QVector<Call> &table()

@@ -124,6 +124,17 @@ void buildToolButton(Stage &stage, Dice &)
     form->show();
 }
 
+void buildPlainTabBar(Stage &stage, Dice &dice)
+{
+    QWidget *form = createForm(stage);
+    auto *bar = addTo<TabBarRd>(form, stage);
+    for (int left = dice.below(6); left > 0; --left)
+        bar->addTab(QStringLiteral("Tab %1").arg(left));
+    bar->setTabsClosable(dice.oneIn(2));
+    bar->setMovable(!dice.oneIn(3));
+    form->show();
+}
+
 void buildTabBar(Stage &stage, Dice &dice)
 {
     QWidget *form = createForm(stage);
@@ -277,7 +288,7 @@ QVector<Scene> scenes()
                           {QStringLiteral("iplineedit"), buildForm<IPLineEdit>, WithManyCalls},
                           {QStringLiteral("limitedfiledialog"), buildLimited, WithManyCalls},
                           {QStringLiteral("stylesheetwidget"), buildForm<StyleSheetWidget>},
-                          {QStringLiteral("tabbarrd"), buildForm<TabBarRd>},
+                          {QStringLiteral("tabbarrd"), buildPlainTabBar, WithManyCalls},
                           {QStringLiteral("tarnpushbutton"), buildForm<TarnPushButton>},
                           {QStringLiteral("tarntabbar"), buildTabBar, WithManyCalls},
                           {QStringLiteral("tarntabwidget"), buildTabWidget, WithManyCalls},
