@@ -160,8 +160,9 @@ bool LimitGuard::contains(const QString &path) const
 {
     if (m_roots.isEmpty())
         return true;
-    // Behind a null character, C functions see the end of the path.
-    if (path.isEmpty() || path.contains(QChar::Null))
+    // Behind a null character, C functions see the end of the path. Half a surrogate pair is left out of the
+    // encoded name: with one behind it, ".." still leads up.
+    if (path.isEmpty() || path.contains(QChar::Null) || !path.isValidUtf16())
         return false;
 
     const QLatin1Char slash('/');

@@ -635,6 +635,10 @@ void tst_LimitedFileDialogStrict::followsLinks_data()
     QTest::newRow("a name behind a link that is too long for a file")
         << QStringLiteral("root/linkdir/") + QString(300, QLatin1Char('n')) << false;
     QTest::newRow("a null character behind a link") << QStringLiteral("root/linkfile") + QChar(0) << false;
+    QTest::newRow("half a surrogate pair behind dots")
+        << QStringLiteral("root/new/..") + QChar(0xd801) << false;
+    QTest::newRow("the other half behind dots") << QStringLiteral("root/new/..") + QChar(0xdc01) << false;
+    QTest::newRow("a whole pair behind dots") << QStringLiteral("root/..\U00010401") << true;
 }
 
 void tst_LimitedFileDialogStrict::followsLinks()

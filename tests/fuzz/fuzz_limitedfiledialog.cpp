@@ -160,7 +160,7 @@ void checkStrict(const Tree &tree, const QString &path)
 {
     static LimitedFileDialog *const dialog = makeDialog(tree, true);
     const bool isInside = dialog->pathFits(path);
-    if (path.contains(QChar::Null) || path.isEmpty()) {
+    if (path.contains(QChar::Null) || !path.isValidUtf16() || path.isEmpty()) {
         require(!isInside, "what is no path is not permitted");
     } else if (path.startsWith(QLatin1Char('/'))) {
         if (isInside) {
