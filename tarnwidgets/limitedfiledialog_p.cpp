@@ -172,9 +172,14 @@ bool LimitGuard::contains(const QString &path) const
     // Some programs clean a path before they open it, some do not. Behind a link ".." differs.
     const QString opened = resolved(absolute);
     const QString cleaned = resolved(QDir::cleanPath(absolute));
+    return isPermitted(opened) && isPermitted(cleaned);
+}
+
+bool LimitGuard::isPermitted(const QString &place) const
+{
     return std::any_of(m_roots.begin(), m_roots.end(), [&](Root &root) {
         const QString folder = standing(&root);
-        return !folder.isEmpty() && isWithin(opened, folder) && isWithin(cleaned, folder);
+        return !folder.isEmpty() && isWithin(place, folder);
     });
 }
 

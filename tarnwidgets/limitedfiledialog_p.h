@@ -65,6 +65,7 @@ private:
         QString canonical; // where it was first found
     };
 
+    bool isPermitted(const QString &place) const;
     static QString standing(Root *root);
     QString shownFolder() const;
     bool isShownPermitted() const;
