@@ -97,6 +97,7 @@ public:
     void enterAtStart(int index) const;
     void enterAtEnd(int index) const;
 
+    static void settle(QLineEdit *field);
     bool filterKey(int index, const QKeyEvent *event);
     void filterDigit(int index, int key);
     void insertZero(QLineEdit *field);
@@ -167,9 +168,21 @@ void IPLineEditPrivate::enterAtEnd(int index) const
     m_fields[index]->end(false);
 }
 
+/* When something was undone and done again, QLineEdit may have a selection that begins before the text, or
+ * the cursor behind its end: the next character would go wrong, beyond the greatest length, too. */
+void IPLineEditPrivate::settle(QLineEdit *field)
+{
+    if (field->selectionStart() >= 0)
+        return;
+    field->deselect();
+    if (field->cursorPosition() > field->text().size())
+        field->end(false);
+}
+
 bool IPLineEditPrivate::filterKey(int index, const QKeyEvent *event)
 {
-    const QLineEdit *field = m_fields[index];
+    QLineEdit *field = m_fields[index];
+    settle(field);
     const bool isFirst = index == 0;
     const bool isLast = index == FieldCount - 1;
     const int key = event->key();

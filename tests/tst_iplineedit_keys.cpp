@@ -230,6 +230,8 @@ private Q_SLOTS:
     void mousePressAndFocusInAreMarkedIgnored();
     void otherEventsPassUnmarked();
     void mousePressReachesTheEditorToo();
+    void typingGoesOnAfterRedoing_data();
+    void typingGoesOnAfterRedoing();
 
 private:
     std::optional<FunctionGuard> m_guard;
@@ -917,6 +919,61 @@ void tst_IPLineEditKeys::mousePressReachesTheEditorToo()
     // THEN the press has come to both, and the field has the focus
     QCOMPARE(edit.presses, 1);
     QCOMPARE(QApplication::focusWidget(), field);
+}
+
+// QLineEdit replaces what nobody sees selected then, or types behind the end.
+void tst_IPLineEditKeys::typingGoesOnAfterRedoing_data()
+{
+    QTest::addColumn<QString>("steps"); // s selects to the start, c clears, u undoes, r does again
+    QTest::addColumn<QString>("redone");
+    QTest::addColumn<QChar>("typed");
+    QTest::addColumn<QString>("left");
+
+    const auto row = [](const char *name, const char *steps, const char *redone, char typed,
+                        const char *left) {
+        QTest::newRow(name) << QString::fromLatin1(steps) << QString::fromLatin1(redone)
+                            << QChar::fromLatin1(typed) << QString::fromLatin1(left);
+    };
+    row("a digit without room", "0s175ur", "175", '4', "175");
+    row("a character that is none", "0s175ur", "175", 'x', "175");
+    row("a digit in an empty field", "5c2uur", "", '1', "1");
+}
+
+void tst_IPLineEditKeys::typingGoesOnAfterRedoing()
+{
+    QFETCH(QString, steps);
+    QFETCH(QString, redone);
+    QFETCH(QChar, typed);
+    QFETCH(QString, left);
+
+    // GIVEN a change that was undone and done again
+    Editor editor;
+    QVERIFY(editor.isReady());
+    editor.enter(3);
+    QLineEdit *field = editor.fields[3];
+    for (const QChar step : qAsConst(steps)) {
+        switch (step.toLatin1()) {
+        case 's':
+            field->home(true);
+            break;
+        case 'c':
+            field->clear();
+            break;
+        case 'u':
+            field->undo();
+            break;
+        case 'r':
+            field->redo();
+            break;
+        default:
+            type(step);
+        }
+    }
+    QCOMPARE(field->text(), redone);
+
+    QTest::keyClick(field, typed.toLatin1());
+
+    QCOMPARE(field->text(), left);
 }
 
 QTEST_MAIN(tst_IPLineEditKeys)

@@ -156,8 +156,8 @@ void Scene::act(int byte, Input *input)
         case Clear:
             m_edit.clear();
             require(m_edit.text() == QLatin1String("..."), "a cleared editor is empty");
-            // Undone and done again, QLineEdit's clear() leaves the cursor behind the end, where typing goes
-            // wrong.
+            // Undone and done again, QLineEdit's clear() leaves the cursor behind the end until a key is
+            // pressed.
             for (QLineEdit *field : m_fields)
                 field->setText(QString()); // forgets the way back
             break;
