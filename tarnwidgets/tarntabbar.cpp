@@ -115,7 +115,7 @@ void TabBarRd::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton) {
         letGo(); // what could not be let go while all tabs were hidden
-        d->m_isHeld = tabAt(event->pos()) >= 0;
+        d->m_isHeld = d->m_isHeld || tabAt(event->pos()) >= 0;
     }
     QTabBar::mousePressEvent(event);
 }
