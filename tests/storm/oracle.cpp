@@ -13,6 +13,7 @@
 #include <QResizeEvent>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <tarnwidgets/colordialog.h>
 #include <tarnwidgets/colorshower.h>
 #include <tarnwidgets/framelessdialog.h>
@@ -57,6 +58,14 @@ bool hadGiant()
     return s_hadGiant;
 }
 
+bool hasTextEdit()
+{
+    const QWidgetList all = QApplication::allWidgets();
+    return std::any_of(all.cbegin(), all.cend(), [](const QWidget *widget) {
+        return widget->inherits("QPlainTextEdit") || widget->inherits("QTextEdit");
+    });
+}
+
 struct Sanction
 {
     const char *part;
@@ -86,6 +95,8 @@ constexpr Sanction Sanctions[] = {
      hadGiant},
     {"(BadPixmap)", "Qt, which frees that picture afterwards", "(FreePixmap)", hadGiant},
     {"(BadDrawable)", "Qt, which scrolls that picture", "(CopyArea)", hadGiant},
+    {"QDragManager::drag in possibly invalid state",
+     "a text edit, whose timer for scrolling drags the selection that is being dragged", "", hasTextEdit},
     {"qDrawShadeRect: Invalid parameters", "a QGroupBox lower than its title, in the Windows style"},
     {"QBasicTimer::start: Timers cannot have negative timeouts", "a button's autoRepeatDelay is drawn, too"},
     {"does not contain a '[*]' placeholder", "so is a window's windowModified"},
