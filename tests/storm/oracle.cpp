@@ -95,6 +95,8 @@ constexpr Sanction Sanctions[] = {
      hadGiant},
     {"(BadPixmap)", "Qt, which frees that picture afterwards", "(FreePixmap)", hadGiant},
     {"(BadDrawable)", "Qt, which scrolls that picture", "(CopyArea)", hadGiant},
+    {"(BadMatch)", "Qt, which clips to pieces of that window, farther away than X11 can count",
+     "(SetClipRectangles)", hadGiant},
     {"QDragManager::drag in possibly invalid state",
      "a text edit, whose timer for scrolling drags the selection that is being dragged", "", hasTextEdit},
     {"qDrawShadeRect: Invalid parameters", "a QGroupBox lower than its title, in the Windows style"},
