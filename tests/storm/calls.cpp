@@ -598,6 +598,10 @@ bool isLeftAlone(const QObject *object, const char *name)
     // The gallery's content is its own, and so is what becomes of it.
     if (QByteArray(name).startsWith("setCentralWidget") && object->inherits("Gallery::MainWindow"))
         return true;
+    // A header with a scroll bar has no height left, of which QHeaderView makes a picture of a pressed
+    // section.
+    if (object->inherits("QHeaderView") && QByteArray(name).endsWith("ScrollBarPolicy"))
+        return true;
     for (const QByteArray &candidate : anywhere) {
         if (candidate == name)
             return true;
@@ -681,8 +685,9 @@ void callOurs(Context &c)
     const QVector<int> &candidates = callsOf(object);
     const Call &chosen = table().at(c.dice.pickOf(candidates));
     c.notes.about(object, QString::fromLatin1(nameOf(chosen)));
-    // It deletes the frame before, with all windows that have their parent in there.
-    const bool deletes = QByteArray(chosen.name).startsWith("setCentralWidget");
+    // One deletes the frame before, with all windows that have their parent in there, the other a dialog.
+    const bool deletes = QByteArray(chosen.name).startsWith("setCentralWidget")
+        || QByteArray(chosen.name) == "delete the inner dialog";
     if (isLeftAlone(object, chosen.name) || (deletes && !c.mayDelete))
         return;
     tally(nameOf(chosen));

@@ -205,7 +205,7 @@ QVector<Call> framelessSetters()
                                          FramelessFileDialog::workingDirectory(drawUrl(source));
                                          FramelessFileDialog::initialSelection(drawUrl(source));
                                      }),
-        // Not while it asks something, or has a menu open. Its header says what the others do then.
+        // Not while it has a menu open. Its header says what the others do then.
         special<FramelessFileDialog>("delete the inner dialog",
                                      [](FramelessFileDialog *dialog, Source source) {
                                          auto *inner = dialog->findChild<QFileDialog *>();

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QFrame>
+#include <QHeaderView>
 #include <QLayout>
 #include <QResizeEvent>
 #include <QStackedWidget>
@@ -66,6 +67,15 @@ bool hasTextEdit()
     });
 }
 
+bool hasFlatHeader()
+{
+    const QWidgetList all = QApplication::allWidgets();
+    return std::any_of(all.cbegin(), all.cend(), [](const QWidget *widget) {
+        const auto *header = qobject_cast<const QHeaderView *>(widget);
+        return header && header->isVisible() && header->viewport()->height() == 0;
+    });
+}
+
 struct Sanction
 {
     const char *part;
@@ -99,6 +109,8 @@ constexpr Sanction Sanctions[] = {
      "(SetClipRectangles)", hadGiant},
     {"QDragManager::drag in possibly invalid state",
      "a text edit, whose timer for scrolling drags the selection that is being dragged", "", hasTextEdit},
+    // It makes a picture of the section that is pressed.
+    {"QPainter::", "a QHeaderView to which a style sheet leaves no height", "", hasFlatHeader},
     {"qDrawShadeRect: Invalid parameters", "a QGroupBox lower than its title, in the Windows style"},
     {"QBasicTimer::start: Timers cannot have negative timeouts", "a button's autoRepeatDelay is drawn, too"},
     {"does not contain a '[*]' placeholder", "so is a window's windowModified"},
