@@ -11,6 +11,7 @@
 #include <QPixmap>
 #include <QSet>
 #include <QStackedWidget>
+#include <QTabBar>
 #include <QTest>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -64,6 +65,8 @@ private Q_SLOTS:
     void toolTipOfATextThatDoesNotFit();
     void toolTipGoesWithATextThatFits();
     void widthThatCountsIsTheOneBefore();
+    void fontThatCountsIsTheWidgets_data();
+    void fontThatCountsIsTheWidgets();
     void barIsNoWiderThanTheWidget();
     void widgetWithEvenTabsGetsNarrowerAgain();
     void tabOperationsAreTheBars();
@@ -285,6 +288,43 @@ void tst_TarnTabWidget::widthThatCountsIsTheOneBefore()
     // and it goes when the text is set again
     tabs.widget.setTabText(0, text);
     QVERIFY(tabs.widget.tabToolTip(0).isEmpty());
+}
+
+void tst_TarnTabWidget::fontThatCountsIsTheWidgets_data()
+{
+    QTest::addColumn<int>("pixelSize"); // of the bar's font; the widget's is of 12 pixels
+    QTest::addColumn<int>("repetitions");
+    QTest::addColumn<bool>("hasToolTip");
+    QTest::newRow("larger tabs, where the text would not fit by their own") << 36 << 2 << false;
+    QTest::newRow("smaller tabs, where the text would fit by their own") << 4 << 1 << true;
+}
+
+void tst_TarnTabWidget::fontThatCountsIsTheWidgets()
+{
+    QFETCH(int, pixelSize);
+    QFETCH(int, repetitions);
+    QFETCH(bool, hasToolTip);
+
+    // GIVEN a tab with a font of its own
+    Tabs tabs(1);
+    QTabBar *bar = tabs.widget.getTabBar()->getTabBar();
+    bar->setExpanding(false);
+    QFont font = tabs.widget.font();
+    font.setPixelSize(12);
+    tabs.widget.setFont(font);
+    font.setPixelSize(pixelSize);
+    bar->setFont(font);
+    const QString former =
+        QStringLiteral("A text of such a length that no margin of the tab makes up for it");
+    bar->setTabText(0, former);
+    const int room = bar->tabRect(0).width();
+    const QString text = former.repeated(repetitions);
+    QCOMPARE(bar->fontMetrics().horizontalAdvance(text) <= room, hasToolTip);
+    QCOMPARE(tabs.widget.fontMetrics().horizontalAdvance(text) <= room, !hasToolTip);
+
+    // WHEN a text is set, THEN it is measured by the widget's font
+    tabs.widget.setTabText(0, text);
+    QCOMPARE(tabs.widget.tabToolTip(0), hasToolTip ? text : QString());
 }
 
 void tst_TarnTabWidget::barIsNoWiderThanTheWidget()
