@@ -182,6 +182,8 @@ void TarnTabWidget::setCurrentIndex(int index)
 
 void TarnTabWidget::setCurrentWidget(QWidget *page)
 {
+    // Kept: the stack first, so that whoever hears of the page from there finds the former tab.
+    d->m_pStack->setCurrentIndex(indexOf(page));
     setCurrentIndex(indexOf(page));
 }
 

@@ -58,6 +58,7 @@ private Q_SLOTS:
     void setCurrentIndexShowsThePage();
     void currentIndexIsAPropertyThatNotifies();
     void setCurrentWidgetShowsItsTab();
+    void stackChangesBeforeTheBarForAPageAndAfterItForAnIndex();
     void unknownPagesAndIndicesAreIgnored();
     void clickOnATabShowsItsPage();
     void slotShowsAPageAndLeavesTheBar();
@@ -70,7 +71,7 @@ private Q_SLOTS:
     void draggedTabTakesItsPageAlong_data();
     void draggedTabTakesItsPageAlong();
     void draggedPageStaysOnShowAndKeepsTheFocus();
-    void setCurrentIndexWhileDraggingKeepsStep();
+    void choiceWhileDraggingKeepsStep();
     void removalWhileDraggingKeepsStep_data();
     void removalWhileDraggingKeepsStep();
     void everyMoveKeepsStep();
@@ -380,6 +381,24 @@ void tst_TarnTabWidgetPages::setCurrentWidgetShowsItsTab()
     QCOMPARE(changes.count(), 3);
 }
 
+void tst_TarnTabWidgetPages::stackChangesBeforeTheBarForAPageAndAfterItForAnIndex()
+{
+    // GIVEN somebody who hears of a page from the stack and asks for the current tab
+    Tabs tabs(3);
+    QVector<int> tabsInSlot;
+    connect(tabs.widget.getStackWidget(), &QStackedWidget::currentChanged, this,
+            [&] { tabsInSlot.append(tabs.widget.currentIndex()); });
+
+    // WHEN a page is chosen, THEN the tab is still the former one
+    tabs.widget.setCurrentWidget(tabs.widget.widget(0));
+    QCOMPARE(tabsInSlot, QVector<int>({2}));
+
+    // WHEN an index is chosen, THEN it is that one already
+    tabs.widget.setCurrentIndex(1);
+    QCOMPARE(tabsInSlot, QVector<int>({2, 1}));
+    QVERIFY(tabs.areInStep());
+}
+
 void tst_TarnTabWidgetPages::unknownPagesAndIndicesAreIgnored()
 {
     Tabs tabs(3);
@@ -564,7 +583,7 @@ void tst_TarnTabWidgetPages::draggedPageStaysOnShowAndKeepsTheFocus()
     QVERIFY(tabs.areInStep());
 }
 
-void tst_TarnTabWidgetPages::setCurrentIndexWhileDraggingKeepsStep()
+void tst_TarnTabWidgetPages::choiceWhileDraggingKeepsStep()
 {
     // GIVEN a tab that the user is dragging, at which time the bar keeps its current tab
     Tabs tabs(4);
@@ -580,6 +599,11 @@ void tst_TarnTabWidgetPages::setCurrentIndexWhileDraggingKeepsStep()
     tabs.widget.setCurrentIndex(3);
 
     // THEN the stack keeps to the bar
+    QCOMPARE(tabs.widget.currentIndex(), current);
+    QVERIFY(tabs.areInStep());
+
+    // WHEN it wants the page, THEN likewise
+    tabs.widget.setCurrentWidget(tabs.widget.widget(3));
     QCOMPARE(tabs.widget.currentIndex(), current);
     QVERIFY(tabs.areInStep());
     QTest::mouseRelease(bar, Qt::LeftButton, Qt::NoModifier, start + QPoint(30, 0));
