@@ -19,10 +19,9 @@ ToolButton::~ToolButton() = default;
 
 void ToolButton::setMenu(QMenu *menu)
 {
-    if (QMenu *former = this->menu())
-        disconnect(former, &QMenu::aboutToHide, this, &ToolButton::recover);
+    // A former menu stays connected: it may be open, and then closes later.
     if (menu)
-        connect(menu, &QMenu::aboutToHide, this, &ToolButton::recover);
+        connect(menu, &QMenu::aboutToHide, this, &ToolButton::recover, Qt::UniqueConnection);
     QToolButton::setMenu(menu);
 }
 

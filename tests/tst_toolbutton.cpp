@@ -37,6 +37,16 @@ protected:
     }
 };
 
+/* How many are told when it closes. */
+class CountingMenu : public QMenu
+{
+public:
+    int hideReceivers() const
+    {
+        return receivers(SIGNAL(aboutToHide()));
+    }
+};
+
 /* A button with a menu in the upper left corner of a window on the screen. */
 struct Form
 {
@@ -91,8 +101,9 @@ private Q_SLOTS:
     void closingTheMenuRecoversOnce_data();
     void closingTheMenuRecoversOnce();
     void hoverLookIsGoneAfterTheMenu();
-    void formerMenuDoesNotRecover();
-    void menuSetTwiceRecoversOnce();
+    void formerMenuStillRecovers_data();
+    void formerMenuStillRecovers();
+    void menuSetAgainIsConnectedOnce();
     void menuMayBeDeleted();
     void buttonMayBeDeletedBeforeItsMenu();
 
@@ -227,35 +238,45 @@ void tst_ToolButton::hoverLookIsGoneAfterTheMenu()
     QCOMPARE(background(), QColor(Qt::blue));
 }
 
-void tst_ToolButton::formerMenuDoesNotRecover()
+void tst_ToolButton::formerMenuStillRecovers_data()
 {
-    Form form;
-    QMenu other;
-    other.addAction(QStringLiteral("Another entry"));
-    form.button.setMenu(&other);
-    form.movePointerTo(Outside);
-    form.openMenu();
-    form.button.setAttribute(Qt::WA_UnderMouse);
-
-    form.menu.close();
-
-    QVERIFY(form.button.underMouse());
+    QTest::addColumn<bool>("hasOther");
+    QTest::newRow("another one in its place") << true;
+    QTest::newRow("none in its place") << false;
 }
 
-void tst_ToolButton::menuSetTwiceRecoversOnce()
+void tst_ToolButton::formerMenuStillRecovers()
 {
-    Form form;
-    form.button.setMenu(&form.menu);
-    form.button.setMenu(&form.menu);
-    form.movePointerTo(Outside);
+    QFETCH(bool, hasOther);
 
-    // One taking away must do.
-    form.button.setMenu(nullptr);
+    // GIVEN a menu that is open when it is taken away from the button
+    Form form;
+    QMenu other;
+    form.movePointerTo(Outside);
     form.openMenu();
     form.button.setAttribute(Qt::WA_UnderMouse);
+    form.button.setMenu(hasOther ? &other : nullptr);
+    QVERIFY(form.menu.isVisible());
+
+    // WHEN it closes
     form.menu.close();
 
-    QVERIFY(form.button.underMouse());
+    // THEN the button does not go on looking hovered
+    QVERIFY(!form.button.underMouse());
+}
+
+void tst_ToolButton::menuSetAgainIsConnectedOnce()
+{
+    ToolButton button;
+    CountingMenu menu;
+    button.setMenu(&menu);
+    QCOMPARE(menu.hideReceivers(), 1);
+
+    button.setMenu(&menu);
+    button.setMenu(nullptr);
+    button.setMenu(&menu);
+
+    QCOMPARE(menu.hideReceivers(), 1);
 }
 
 void tst_ToolButton::menuMayBeDeleted()
