@@ -1,8 +1,9 @@
 # SPDX-FileCopyrightText: 2026 the tarnwidgets developers
 # SPDX-License-Identifier: MIT
 
-# Fails unless LIBRARY, as READELF and NM read it, calls itself SONAME, names each library of the list NEEDED as needed,
-# and uses none of Qt's private symbols.
+# Fails unless LIBRARY, as READELF and NM read it, calls itself SONAME, names each library of the list NEEDED as needed
+# and no module of Qt but MODULES (a regular expression), and calls nothing of Qt's private symbols, nothing that reads the
+# environment, and nothing that makes a thread or a timer.
 
 cmake_minimum_required(VERSION 3.16)
 
@@ -27,7 +28,15 @@ foreach(library IN LISTS NEEDED)
     endif()
 endforeach()
 
-execute_process(COMMAND ${NM} -D --undefined-only ${LIBRARY}
+string(REGEX MATCHALL "libQt5[A-Za-z0-9]+" modules "${dynamic}")
+foreach(module IN LISTS modules)
+    if(NOT module MATCHES "^libQt5(${MODULES})$")
+        message("${LIBRARY} needs ${module}")
+        message(SEND_ERROR "Unexpected dependency")
+    endif()
+endforeach()
+
+execute_process(COMMAND ${NM} -D --undefined-only -C ${LIBRARY}
     OUTPUT_VARIABLE undefined
     RESULT_VARIABLE result)
 if(NOT result EQUAL 0)
@@ -36,8 +45,19 @@ endif()
 if(NOT undefined MATCHES "@Qt_5")
     message(FATAL_ERROR "The symbols that ${LIBRARY} takes from Qt have no versions to tell them apart by")
 endif()
-string(REGEX MATCHALL "[^ \n]+@Qt_5_PRIVATE_API" private "${undefined}")
+string(REGEX MATCHALL "[^\n]+@Qt_5_PRIVATE_API" private "${undefined}")
 if(private)
     message("${LIBRARY} uses private symbols of Qt: ${private}")
     message(SEND_ERROR "Private symbols of Qt")
+endif()
+
+set(own_means
+    "qgetenv|qEnvironmentVariable|QProcessEnvironment::|(secure_)?getenv@" # the environment
+    "QThread|QtConcurrent::|std::thread::|pthread_create@|thrd_create@" # threads
+    "QTimer::|QBasicTimer::|QObject::startTimer|timer_create@|timerfd_create@") # timers
+list(JOIN own_means "|" own_means)
+string(REGEX MATCHALL "U (${own_means})[^\n]*" calls "${undefined}")
+if(calls)
+    message("${LIBRARY} calls ${calls}")
+    message(SEND_ERROR "Environment, threads or timers")
 endif()

@@ -3,6 +3,8 @@
 
 // A library with all the faults that the checks here are to find, to show that they do.
 
+#include <QThread>
+#include <QTimer>
 #include <QVector>
 #include <cstdlib>
 
@@ -46,5 +48,9 @@ static const int s_atLoadTime = std::rand();
 
 int QssLoader::load()
 {
-    return s_atLoadTime;
+    QTimer timer;
+    timer.start(0);
+    QThread thread;
+    thread.wait(1);
+    return s_atLoadTime + qgetenv("LEAKY").size();
 }
