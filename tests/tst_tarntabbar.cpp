@@ -231,6 +231,7 @@ private Q_SLOTS:
     void evenLeavesRoomForTheAreas();
     void evenBarGetsNarrowerAgain_data();
     void evenBarGetsNarrowerAgain();
+    void normalLeavesABarThatWasNeverEven();
     void normalAfterEvenLeavesTheBarWide();
     void widthsArePassedOn();
     void negativeMaximumIsIgnoredAndMinimumPassedOn();
@@ -751,6 +752,23 @@ void tst_TarnTabBar::evenBarGetsNarrowerAgain()
     QCOMPARE(frame.getTabBar()->width(), 301);
     for (int index = 0; index < 3; ++index)
         QCOMPARE(frame.tabRect(index).width(), index == 2 ? 101 : 100);
+}
+
+void tst_TarnTabBar::normalLeavesABarThatWasNeverEven()
+{
+    TarnTabBar frame(nullptr);
+    frame.addTab(QStringLiteral("Tab"));
+    frame.resize(400, 40);
+    frame.show();
+    const int before = frame.getTabBar()->width();
+    QVERIFY(before < 400);
+
+    frame.setTabBarType(TabBarRd::Normal);
+
+    QCOMPARE(frame.getTabBar()->width(), before);
+    QCOMPARE(frame.getTabBar()->sizePolicy(), QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred));
+    QCOMPARE(frame.layout()->itemAt(Space)->spacerItem()->sizePolicy(),
+             QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum));
 }
 
 void tst_TarnTabBar::normalAfterEvenLeavesTheBarWide()
