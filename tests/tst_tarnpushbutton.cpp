@@ -151,6 +151,7 @@ private Q_SLOTS:
     void toolTipOfTheApplicationGoesWithTheNextPaint();
     void textOfATurnedButtonIsCutWhenPainted_data();
     void textOfATurnedButtonIsCutWhenPainted();
+    void turningAloneLeavesTheTextAlone();
     void turnedButtonGoesBackToItsFullText();
 
     // The picture
@@ -387,6 +388,26 @@ void tst_TarnPushButton::textOfATurnedButtonIsCutWhenPainted()
     QVERIFY(expected != before);
     QCOMPARE(button.text(), expected);
     QCOMPARE(button.toolTip(), expected == LongText ? QString() : LongText);
+}
+
+void tst_TarnPushButton::turningAloneLeavesTheTextAlone()
+{
+    // GIVEN a button that shows another text than its full one
+    TarnPushButton button;
+    button.resize(Narrow);
+    button.setBtnText(QStringLiteral("A"));
+    button.setText(LongText);
+    const QString shown = button.text();
+
+    // WHEN it is turned, and back, and not painted between
+    for (const bool on : {true, false}) {
+        button.isOpenRotation(on);
+        button.setRotationDirection(!on);
+
+        // THEN it still shows that, for its text is the next paint's to change
+        QCOMPARE(button.text(), shown);
+        QCOMPARE(button.toolTip(), LongText);
+    }
 }
 
 void tst_TarnPushButton::turnedButtonGoesBackToItsFullText()
