@@ -188,7 +188,7 @@ ColorLuminancePicker::ColorLuminancePicker(QWidget *parent)
     : QWidget(parent)
 {
     setWindowFlag(Qt::FramelessWindowHint);
-    setAttribute(Qt::WA_OpaquePaintEvent, FramelessDialog::m_defaultBackgroundColor.alpha() == 255);
+    followGround(FramelessDialog::m_defaultBackgroundColor);
     setFixedWidth(StripWidth);
 }
 
@@ -252,6 +252,17 @@ void ColorLuminancePicker::updateGradient()
     }
 }
 
+/* What is below an opaque strip is not painted. When the ground changes between two paints, the first of them
+ * has that wrong, and a second one is asked for. */
+void ColorLuminancePicker::followGround(const QColor &ground)
+{
+    const bool isOpaque = ground.alpha() == 255;
+    if (testAttribute(Qt::WA_OpaquePaintEvent) == isOpaque)
+        return;
+    setAttribute(Qt::WA_OpaquePaintEvent, isOpaque);
+    update();
+}
+
 /* The gradient reaches across the whole width, and is seen under the arrows through their ground. */
 void ColorLuminancePicker::paintThroughGround(QPainter *painter, const QColor &ground) const
 {
@@ -274,6 +285,7 @@ void ColorLuminancePicker::paintEvent(QPaintEvent *)
 
     QPainter painter(this);
     const QColor ground = FramelessDialog::m_defaultBackgroundColor;
+    followGround(ground);
     painter.fillRect(rect(), ground);
     painter.drawImage(ArrowDepth + 1, Offset, m_gradient);
     if (ground.alpha() < 255)

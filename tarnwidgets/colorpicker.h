@@ -100,6 +100,7 @@ protected:
 
 private:
     void updateGradient();
+    void followGround(const QColor &ground);
     void paintThroughGround(QPainter *painter, const QColor &ground) const;
 
     int m_val = 100;

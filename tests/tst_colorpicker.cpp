@@ -7,6 +7,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <memory>
@@ -85,6 +86,17 @@ QImage expectedStrip(const QSize &size, int hue, int sat, int val, const QColor 
     painter.fillRect(QRect(QPoint(w - 9, 0), QPoint(w - 1, h - 1)), ground);
     painter.drawPolygon(QPolygon({QPoint(w - 9, y0 + 7), QPoint(w - 1, y0 + 14), QPoint(w - 1, y0)}));
     return image;
+}
+
+/* What is seen of a colour under the present ground. */
+QColor through(const QColor &below)
+{
+    QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
+    image.fill(below);
+    QPainter painter(&image);
+    painter.fillRect(image.rect(), FramelessDialog::m_defaultBackgroundColor);
+    painter.end();
+    return image.pixelColor(0, 0);
 }
 
 void dragTo(QWidget *widget, const QPointF &pos)
@@ -172,6 +184,7 @@ private Q_SLOTS:
     void gradientFollowsTheHeight();
     void groundIsTheDialogsAtEveryPaint();
     void translucentGroundLetsShowWhatIsBelow();
+    void groundMayBecomeTranslucentLater();
     void stripMapsRowsAndValues_data();
     void stripMapsRowsAndValues();
     void pressOnTheStripPicksNothing();
@@ -638,14 +651,6 @@ void tst_ColorPicker::translucentGroundLetsShowWhatIsBelow()
 {
     const std::unique_ptr<ColorLuminancePicker> opaque(createStrip());
     const QColor gradient = rendered(opaque.get()).pixelColor(20, 60);
-    const auto through = [](const QColor &below) {
-        QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
-        image.fill(below);
-        QPainter painter(&image);
-        painter.fillRect(image.rect(), FramelessDialog::m_defaultBackgroundColor);
-        painter.end();
-        return image.pixelColor(0, 0);
-    };
 
     // THEN the ground is on what was there, twice beside the gradient, and once on the gradient under the
     // arrows
@@ -658,6 +663,37 @@ void tst_ColorPicker::translucentGroundLetsShowWhatIsBelow()
     QCOMPARE(picture.pixelColor(20, 60), gradient);
     QCOMPARE(picture.pixelColor(3, 60), through(gradient));
     QCOMPARE(picture.pixelColor(StripWidth - 4, 60), through(gradient));
+}
+
+void tst_ColorPicker::groundMayBecomeTranslucentLater()
+{
+    // GIVEN a strip on the screen, in a red window
+    QWidget window;
+    window.setPalette(QPalette(Qt::red));
+    window.resize(100, 300);
+    auto *strip = new ColorLuminancePicker(&window);
+    strip->resize(StripWidth, StripHeight);
+    PaintWatch watch(strip);
+    QVERIFY(watch.begin());
+    const auto seen = [&window](const QPoint &pos) {
+        return QColor(window.screen()->grabWindow(window.winId()).toImage().pixel(pos));
+    };
+    QCOMPARE(seen(QPoint(3, 3)), FramelessDialog::m_defaultBackgroundColor);
+
+    // WHEN its ground becomes translucent, and at every paint after that
+    FramelessDialog::m_defaultBackgroundColor = QColor(0, 0, 0, 100);
+    int before = 100;
+    for (const int val : {10, 250, 130}) {
+        strip->setVal(val);
+
+        // THEN the window shows through, and no arrow of before
+        QTRY_COMPARE(seen(QPoint(20, 3)), through(Qt::red));
+        QCOMPARE(seen(QPoint(3, 3)), through(through(Qt::red)));
+        QCOMPARE(seen(QPoint(3, strip->val2y(val))), QColor(Qt::white));
+        const int row = strip->val2y(before);
+        QCOMPARE(seen(QPoint(3, row)), through(seen(QPoint(20, row))));
+        before = val;
+    }
 }
 
 void tst_ColorPicker::stripMapsRowsAndValues_data()
