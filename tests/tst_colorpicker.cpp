@@ -169,11 +169,13 @@ private Q_SLOTS:
     void dragOverTheFieldPicks();
     void dragTellsEveryMove();
     void dragCountsFromInsideTheFrame();
+    void anyButtonDrags();
     void ringMarksTheColor_data();
     void ringMarksTheColor();
     void ringMayBeLeftOut();
     void changeRepaintsTheRingAtOnce_data();
     void changeRepaintsTheRingAtOnce();
+    void dragIsPaintedBeforeItIsTold();
     void sameColorRepaintsNothing();
 
     void stripIsAWidgetOfFixedWidth();
@@ -196,6 +198,7 @@ private Q_SLOTS:
     void stripTellsAHueAndSaturationEveryTime();
     void stripTakesAnythingAsItIs();
     void stripRepaintsAtOnce();
+    void stripIsPaintedBeforeItTells();
 
 private:
     std::optional<Tarn::Test::FunctionGuard> m_guard;
@@ -444,6 +447,21 @@ void tst_ColorPicker::dragCountsFromInsideTheFrame()
     QCOMPARE(lastHueSat(colors), HueSat(0, 0));
 }
 
+void tst_ColorPicker::anyButtonDrags()
+{
+    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+        ColorPicker field;
+        QSignalSpy fieldColors(&field, &ColorPicker::newCol);
+        mouseMove(&field, toGlobal(&field, QPointF(50, 60)), button);
+        QCOMPARE(fieldColors.count(), 1);
+
+        const std::unique_ptr<ColorLuminancePicker> strip(createStrip());
+        QSignalSpy stripColors(strip.get(), &ColorLuminancePicker::newHsv);
+        mouseMove(strip.get(), toGlobal(strip.get(), QPointF(20, 60)), button);
+        QCOMPARE(stripColors.count(), 1);
+    }
+}
+
 void tst_ColorPicker::ringMarksTheColor_data()
 {
     QTest::addColumn<int>("hue");
@@ -536,6 +554,27 @@ void tst_ColorPicker::changeRepaintsTheRingAtOnce()
     QCOMPARE(watch.painted, QRegion(area & field.rect()));
 }
 
+void tst_ColorPicker::dragIsPaintedBeforeItIsTold()
+{
+    // GIVEN a field on the screen whose receiver looks at it
+    ColorPicker field;
+    PaintWatch watch(&field);
+    QVERIFY(watch.begin());
+    int paintedBefore = -1;
+    QPoint mark;
+    connect(&field, &ColorPicker::newCol, this, [&] {
+        paintedBefore = watch.times;
+        mark = field.colPt();
+    });
+
+    // WHEN the mouse is dragged to a corner
+    dragTo(&field, QPointF(0, 0));
+
+    // THEN the ring was there when it was told
+    QCOMPARE(paintedBefore, 1);
+    QCOMPARE(mark, QPoint(0, 0));
+}
+
 void tst_ColorPicker::sameColorRepaintsNothing()
 {
     ColorPicker field;
@@ -574,6 +613,8 @@ void tst_ColorPicker::stripPixelsFollowTheRule_data()
     QTest::newRow("largest value") << 210 << 255 << 255 << usual;
     QTest::newRow("smallest value") << 0 << 0 << 0 << usual;
     QTest::newRow("grey") << -1 << 0 << 77 << usual;
+    QTest::newRow("above the largest value") << 33 << 200 << 258 << usual;
+    QTest::newRow("below the smallest value") << 33 << 200 << -4 << usual;
     QTest::newRow("one level a row") << 33 << 200 << 128 << QSize(StripWidth, 270);
     QTest::newRow("wider and higher") << 33 << 200 << 128 << QSize(90, 500);
     QTest::newRow("barely room for a gradient") << 33 << 200 << 128 << QSize(19, 17);
@@ -839,6 +880,21 @@ void tst_ColorPicker::stripRepaintsAtOnce()
     watch.reset();
     strip->setCol(1, 2, 3);
     QCOMPARE(watch.times, 0);
+}
+
+void tst_ColorPicker::stripIsPaintedBeforeItTells()
+{
+    // GIVEN a strip on the screen whose receiver looks at it
+    const std::unique_ptr<ColorLuminancePicker> strip(createStrip());
+    PaintWatch watch(strip.get());
+    QVERIFY(watch.begin());
+    QVector<int> paintedBefore;
+    connect(strip.get(), &ColorLuminancePicker::newHsv, this, [&] { paintedBefore.append(watch.times); });
+
+    // WHEN it tells, THEN what it tells is on the screen
+    strip->setVal(7);
+    strip->setCol(1, 2);
+    QCOMPARE(paintedBefore, QVector<int>({1, 2}));
 }
 
 QTEST_MAIN(tst_ColorPicker)
