@@ -16,6 +16,7 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QRegularExpressionValidator>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
 #include <memory>
@@ -182,10 +183,14 @@ private Q_SLOTS:
     void setHsvIgnoresWhatIsNoColor();
     void hueOfAWholeTurnShowsAsTheLargest();
     void settingTellsTheColorOnceAndNoEdit();
+    void settingShowsTheColorBeforeItIsTold();
+    void settingTheSameColorShowsItAgain();
 
     void editedNumberIsShownEverywhereAndToldOnce_data();
     void editedNumberIsShownEverywhereAndToldOnce();
     void alphaEditorGoesIntoTheColor();
+    void editThatGivesTheSameColorIsToldAsAnEdit();
+    void editIsShownBeforeItIsTold_data();
     void editIsShownBeforeItIsTold();
 
     void htmlTakesThreeOrSixDigits_data();
@@ -200,10 +205,13 @@ private Q_SLOTS:
     void swatchIsDraggedAwayAfterTheStartDistance();
     void dragOfTheSwatchCarriesItsColor();
     void dragNeedsAPressBeforeIt();
+    void anyButtonDragsTheSwatch();
+    void startDistanceIsTheApplications();
     void swatchTakesColorsOnly_data();
     void swatchTakesColorsOnly();
     void dropWhoseColorIsGoneChangesNothing();
     void droppedColorIsToldAndShown();
+    void droppedColorIsPaintedBeforeItIsTold();
     void droppedColorBecomesOpaque();
     void leavingDragChangesNothing();
 
@@ -514,6 +522,56 @@ void tst_ColorShower::settingTellsTheColorOnceAndNoEdit()
     QCOMPARE(edits.count(), 0);
 }
 
+void tst_ColorShower::settingShowsTheColorBeforeItIsTold()
+{
+    // GIVEN a shower on the screen whose receiver looks at it
+    Fixture fixture;
+    QVERIFY(fixture.isComplete());
+    PaintWatch watch(fixture.swatch);
+    QVERIFY(watch.begin());
+    Numbers numbers;
+    QString html;
+    int paintedBefore = -1;
+    connect(&fixture.shower, &ColorShower::currentColorChanged, this, [&] {
+        numbers = fixture.numbers();
+        html = fixture.html->text();
+        paintedBefore = watch.times;
+    });
+
+    // WHEN a colour is set, THEN all of it is shown by the time it is told
+    fixture.shower.setRgb(0xffc8501e);
+    QCOMPARE(numbers, Numbers({17, 217, 200, 200, 80, 30}));
+    QCOMPARE(html, QStringLiteral("#c8501e"));
+    QCOMPARE(paintedBefore, 1);
+    fixture.shower.setHsv(0, 255, 255);
+    QCOMPARE(numbers, Numbers({0, 255, 255, 255, 0, 0}));
+    QCOMPARE(html, QStringLiteral("#ff0000"));
+    QCOMPARE(paintedBefore, 2);
+}
+
+void tst_ColorShower::settingTheSameColorShowsItAgain()
+{
+    // GIVEN a shower with a grey whose hue and HTML were edited
+    Fixture fixture;
+    QVERIFY(fixture.isComplete());
+    fixture.shower.setRgb(0xff808080);
+    fixture.edit(Hue, 50);
+    fixture.html->clear();
+    QTest::keyClicks(fixture.html, QStringLiteral("#12"));
+    QCOMPARE(fixture.shower.currentColor(), QRgb(0xff808080));
+
+    // WHEN the grey is set once more, THEN both are as the colour has them
+    fixture.shower.setRgb(0xff808080);
+    QCOMPARE(fixture.numbers(), Numbers({0, 0, 128, 128, 128, 128}));
+    QCOMPARE(fixture.html->text(), QStringLiteral("#808080"));
+
+    // and so they are by the other way of setting
+    fixture.html->clear();
+    fixture.shower.setHsv(70, 0, 128);
+    QCOMPARE(fixture.numbers(), Numbers({70, 0, 128, 128, 128, 128}));
+    QCOMPARE(fixture.html->text(), QStringLiteral("#808080"));
+}
+
 void tst_ColorShower::editedNumberIsShownEverywhereAndToldOnce_data()
 {
     QTest::addColumn<int>("editor");
@@ -595,29 +653,73 @@ void tst_ColorShower::alphaEditorGoesIntoTheColor()
     QCOMPARE(fixture.shower.currentQColor(), QColor(255, 0, 0, 128));
 }
 
+void tst_ColorShower::editIsShownBeforeItIsTold_data()
+{
+    QTest::addColumn<int>("editor"); // the one behind the last is HTML
+    QTest::newRow("blue") << int(Blue);
+    QTest::newRow("value") << int(Val);
+    QTest::newRow("HTML") << int(EditorCount);
+}
+
 void tst_ColorShower::editIsShownBeforeItIsTold()
 {
+    QFETCH(int, editor);
+
     // GIVEN a shower on the screen whose receivers look at it
     Fixture fixture;
     QVERIFY(fixture.isComplete());
     PaintWatch watch(fixture.swatch);
     QVERIFY(watch.begin());
     QStringList seen;
+    Numbers seenNumbers;
     connect(&fixture.shower, &ColorShower::newCol, this, [&] {
         seen.append(QStringLiteral("edit %1 %2").arg(fixture.html->text()).arg(watch.times));
+        seenNumbers = fixture.numbers();
         QVERIFY(fixture.shower.currentQColor() != QColor(0, 0, 255, 0));
     });
     connect(&fixture.shower, &ColorShower::currentColorChanged, this,
             [&](const QColor &color) { seen.append(QStringLiteral("color ") + color.name()); });
     fixture.shower.setRgb(0xff0000f0);
+    fixture.html->setText(QStringLiteral("#0000f"));
     watch.reset();
     seen.clear();
 
-    // WHEN a number is edited
-    fixture.edit(Blue, 255);
+    // WHEN a number or HTML is edited
+    if (editor < EditorCount)
+        fixture.edit(Editor(editor), 255);
+    else
+        QTest::keyClicks(fixture.html, QStringLiteral("f"));
 
     // THEN they find the texts and the painted swatch, and hear of the colour last
     QCOMPARE(seen, QStringList({QStringLiteral("edit #0000ff 1"), QStringLiteral("color #0000ff")}));
+    QCOMPARE(seenNumbers, Numbers({240, 255, 255, 0, 0, 255}));
+}
+
+void tst_ColorShower::editThatGivesTheSameColorIsToldAsAnEdit()
+{
+    // GIVEN a shower with a grey
+    Fixture fixture;
+    QVERIFY(fixture.isComplete());
+    fixture.shower.setRgb(0xff808080);
+    QSignalSpy edits(&fixture.shower, &ColorShower::newCol);
+    QSignalSpy colors(&fixture.shower, &ColorShower::currentColorChanged);
+
+    // WHEN its hue is edited, which a grey does not show
+    fixture.edit(Hue, 50);
+
+    // THEN that is an edit, but no other colour
+    QCOMPARE(edits.count(), 1);
+    QCOMPARE(lastRgb(edits), QRgb(0xff808080));
+    QCOMPARE(fixture.boxes.at(Hue)->value(), 50);
+    QCOMPARE(colors.count(), 0);
+
+    // and so it is with three digits of HTML that become six
+    fixture.html->clear();
+    QTest::keyClicks(fixture.html, QStringLiteral("#fff"));
+    QCOMPARE(edits.count(), 2);
+    QTest::keyClicks(fixture.html, QStringLiteral("fff"));
+    QCOMPARE(edits.count(), 3);
+    QCOMPARE(colors.count(), 1);
 }
 
 void tst_ColorShower::htmlTakesThreeOrSixDigits_data()
@@ -828,6 +930,38 @@ void tst_ColorShower::dragNeedsAPressBeforeIt()
     QCOMPARE(takeDrags(fixture.swatch).count, 0);
 }
 
+void tst_ColorShower::anyButtonDragsTheSwatch()
+{
+    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+        Fixture fixture;
+        QVERIFY(fixture.isComplete());
+        fixture.shower.show();
+        const QPointF start = toGlobal(fixture.swatch, QPointF(30, 30));
+        mousePress(fixture.swatch, start, button);
+        mouseMove(fixture.swatch, start + QPointF(40, 0), button);
+        QCOMPARE(takeDrags(fixture.swatch).count, 1);
+    }
+}
+
+void tst_ColorShower::startDistanceIsTheApplications()
+{
+    // GIVEN an application with a start distance of its own
+    const int usual = QApplication::startDragDistance();
+    const auto restore = qScopeGuard([usual] { QApplication::setStartDragDistance(usual); });
+    QApplication::setStartDragDistance(usual + 15);
+    Fixture fixture;
+    QVERIFY(fixture.isComplete());
+    fixture.shower.show();
+    const QPointF start = toGlobal(fixture.swatch, QPointF(30, 30));
+    mousePress(fixture.swatch, start);
+
+    // WHEN the mouse has gone so far, there is no drag, and THEN there is one
+    mouseMove(fixture.swatch, start + QPointF(usual + 15, 0));
+    QCOMPARE(takeDrags(fixture.swatch).count, 0);
+    mouseMove(fixture.swatch, start + QPointF(usual + 16, 0));
+    QCOMPARE(takeDrags(fixture.swatch).count, 1);
+}
+
 void tst_ColorShower::swatchTakesColorsOnly_data()
 {
     QTest::addColumn<QString>("kind");
@@ -912,6 +1046,21 @@ void tst_ColorShower::droppedColorIsToldAndShown()
     QCOMPARE(fixture.shower.currentColor(), QRgb(0xffc8501e));
     QCOMPARE(fixture.numbers(), Numbers({17, 217, 200, 200, 80, 30}));
     QCOMPARE(fixture.html->text(), QStringLiteral("#c8501e"));
+    QCOMPARE(fixture.swatchColor(), QColor(200, 80, 30));
+}
+
+void tst_ColorShower::droppedColorIsPaintedBeforeItIsTold()
+{
+    Fixture fixture;
+    QVERIFY(fixture.isComplete());
+    PaintWatch watch(fixture.swatch);
+    QVERIFY(watch.begin());
+    int paintedBefore = -1;
+    connect(fixture.swatch, &ColorShowLabel::colorDropped, this, [&] { paintedBefore = watch.times; });
+    // The shower's own slots would paint it, too.
+    disconnect(fixture.swatch, nullptr, &fixture.shower, nullptr);
+    QVERIFY(drop(fixture.swatch, *colorData(QColor(200, 80, 30))));
+    QCOMPARE(paintedBefore, 1);
     QCOMPARE(fixture.swatchColor(), QColor(200, 80, 30));
 }
 
