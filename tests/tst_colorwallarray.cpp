@@ -161,9 +161,9 @@ void release(QWidget *widget)
 }
 
 /* Whether the key was taken. */
-bool pressKey(QWidget *widget, Qt::Key key)
+bool pressKey(QWidget *widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
-    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+    QKeyEvent event(QEvent::KeyPress, key, modifiers);
     QCoreApplication::sendEvent(widget, &event);
     return event.isAccepted();
 }
@@ -219,10 +219,13 @@ private Q_SLOTS:
     void selectingTellsEveryTime();
     void selectingNoneTellsNothing();
     void bothMarksAreIndependent();
+    void marksAreThereWhenTheyAreTold();
 
     void pressMakesTheCellThereCurrent_data();
     void pressMakesTheCellThereCurrent();
     void clickTellsThePressAndTheRelease();
+    void clickBesideTheCellsIsToldAsWell();
+    void anyButtonClicks();
     void colorGridSelectsOnlyAfterAPress();
     void colorGridHasNoDragAndDrop();
 
@@ -231,6 +234,8 @@ private Q_SLOTS:
     void arrowKeysWithoutACurrentCellLeadToNone_data();
     void arrowKeysWithoutACurrentCellLeadToNone();
     void spaceSelectsTheCurrentCell();
+    void spaceWithoutACurrentCellTellsNothing();
+    void modifiersDoNotMatterToTheKeys();
     void otherKeysArePassedOn_data();
     void otherKeysArePassedOn();
 
@@ -242,6 +247,7 @@ private Q_SLOTS:
     void cellsThatDoNotExistAreNotPainted();
     void cellIsASunkenFrameAroundItsContents();
     void focusRectangleIsOnTheCurrentCellWhileTheGridHasTheKeyboard();
+    void contentsAreOnTopOfTheFocusRectangle();
     void plainCellIsACrossedOutWhite();
     void colorCellsAreFilledByColumnsAndOpaque_data();
     void colorCellsAreFilledByColumnsAndOpaque();
@@ -452,6 +458,25 @@ void tst_ColorWallArray::bothMarksAreIndependent()
     QCOMPARE(selectedCell(wells), Cell(4, 5));
 }
 
+void tst_ColorWallArray::marksAreThereWhenTheyAreTold()
+{
+    // GIVEN a grid whose receivers look at it
+    WellArray wells(Rows, Columns);
+    Cell selected = None;
+    bool wasCurrent = false;
+    connect(&wells, &WellArray::selected, this, [&] { selected = selectedCell(wells); });
+    connect(&wells, &WellArray::currentChanged, this, [&] {
+        wells.disconnect(this); // or it would be told of its own question
+        wasCurrent = isCurrent(&wells, Cell(2, 3));
+    });
+
+    // WHEN the marks move, THEN they are found where they are told
+    wells.setSelected(4, 5);
+    QCOMPARE(selected, Cell(4, 5));
+    wells.setCurrent(2, 3);
+    QVERIFY(wasCurrent);
+}
+
 void tst_ColorWallArray::pressMakesTheCellThereCurrent_data()
 {
     QTest::addColumn<Qt::LayoutDirection>("direction");
@@ -532,6 +557,39 @@ void tst_ColorWallArray::clickTellsThePressAndTheRelease()
     }
 }
 
+void tst_ColorWallArray::clickBesideTheCellsIsToldAsWell()
+{
+    const std::vector<QRgb> colors = differentColors(Rows * Columns);
+    const auto plain = std::make_unique<WellArray>(Rows, Columns);
+    const auto colored = std::make_unique<ColorWellArray>(nullptr, Rows, Columns, colors.data());
+    for (WellArray *wells : {plain.get(), static_cast<WellArray *>(colored.get())}) {
+        QSignalSpy selections(wells, &WellArray::selected);
+        press(wells, QPointF(40, 32 * Rows + 3));
+        release(wells);
+        QCOMPARE(selections.count(), 1);
+        QCOMPARE(lastCell(selections), Cell(Rows, 1));
+        QCOMPARE(selectedCell(*wells), Cell(Rows, 1));
+    }
+}
+
+void tst_ColorWallArray::anyButtonClicks()
+{
+    const std::vector<QRgb> colors = differentColors(Rows * Columns);
+    const auto plain = std::make_unique<WellArray>(Rows, Columns);
+    const auto colored = std::make_unique<ColorWellArray>(nullptr, Rows, Columns, colors.data());
+    for (WellArray *wells : {plain.get(), static_cast<WellArray *>(colored.get())}) {
+        for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+            QSignalSpy selections(wells, &WellArray::selected);
+            const int column = button == Qt::RightButton ? 2 : 3;
+            const QPointF pos = toGlobal(wells, QPointF(36 * column + 4, 32 + 4));
+            mousePress(wells, pos, button);
+            mouseRelease(wells, pos, button);
+            QCOMPARE(selections.count(), 1);
+            QCOMPARE(lastCell(selections), Cell(1, column));
+        }
+    }
+}
+
 void tst_ColorWallArray::colorGridSelectsOnlyAfterAPress()
 {
     const std::vector<QRgb> colors = differentColors(Rows * Columns);
@@ -581,6 +639,10 @@ void tst_ColorWallArray::keysMoveTheCurrentCell_data()
     row("down at the edge", Cell(Rows - 1, 3), Qt::Key_Down, Cell(Rows - 1, 3));
     row("left without a current cell", None, Qt::Key_Left, None);
     row("up without a current cell", None, Qt::Key_Up, None);
+    row("up from below the cells", Cell(Rows, 3), Qt::Key_Up, Cell(Rows - 1, 3));
+    row("down from below the cells", Cell(Rows, 3), Qt::Key_Down, Cell(Rows, 3));
+    row("left from beside the cells", Cell(2, Columns), Qt::Key_Left, Cell(2, Columns - 1));
+    row("right from beside the cells", Cell(2, Columns), Qt::Key_Right, Cell(2, Columns));
 }
 
 void tst_ColorWallArray::keysMoveTheCurrentCell()
@@ -628,6 +690,33 @@ void tst_ColorWallArray::spaceSelectsTheCurrentCell()
     QVERIFY(pressKey(&wells, Qt::Key_Space));
     QCOMPARE(selections.count(), 1);
     QCOMPARE(lastCell(selections), Cell(2, 3));
+}
+
+void tst_ColorWallArray::spaceWithoutACurrentCellTellsNothing()
+{
+    WellArray wells(Rows, Columns);
+    wells.setSelected(2, 3);
+    wells.setCurrent(-1, -1);
+    QSignalSpy selections(&wells, &WellArray::selected);
+    QVERIFY(pressKey(&wells, Qt::Key_Space));
+    QCOMPARE(selections.count(), 0);
+    QCOMPARE(selectedCell(wells), None);
+}
+
+void tst_ColorWallArray::modifiersDoNotMatterToTheKeys()
+{
+    for (const auto modifier :
+         {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier, Qt::KeypadModifier}) {
+        WellArray wells(Rows, Columns);
+        QSignalSpy selections(&wells, &WellArray::selected);
+        QVERIFY(pressKey(&wells, Qt::Key_Right, modifier));
+        QVERIFY(pressKey(&wells, Qt::Key_Down, modifier));
+        QVERIFY(pressKey(&wells, Qt::Key_Space, modifier));
+        QCOMPARE(lastCell(selections), Cell(1, 1));
+        QVERIFY(pressKey(&wells, Qt::Key_Left, modifier));
+        QVERIFY(pressKey(&wells, Qt::Key_Up, modifier));
+        QVERIFY(isCurrent(&wells, Cell(0, 0)));
+    }
 }
 
 void tst_ColorWallArray::otherKeysArePassedOn_data()
@@ -810,6 +899,9 @@ void tst_ColorWallArray::focusRectangleIsOnTheCurrentCellWhileTheGridHasTheKeybo
     wells.setGeometry(QRect(QPoint(), GridSize));
     wells.setCurrent(2, 3);
     wells.setSelected(1, 1);
+    QPalette palette = wells.palette();
+    palette.setColor(QPalette::Highlight, Qt::magenta);
+    wells.setPalette(palette);
     QWidget other(&window);
     other.setFocusPolicy(Qt::StrongFocus);
     QVERIFY(activate(&window));
@@ -830,7 +922,48 @@ void tst_ColorWallArray::focusRectangleIsOnTheCurrentCellWhileTheGridHasTheKeybo
     const DrawnFrame frame = style.ofKind(QStyle::PE_FrameFocusRect).constFirst();
     QCOMPARE(frame.rect, wells.cellRect(2, 3));
     QCOMPARE(frame.state, QStyle::State(QStyle::State_KeyboardFocusChange));
+    QCOMPARE(frame.palette.color(QPalette::Highlight), QColor(Qt::magenta));
     QCOMPARE(frame.widget, &wells);
+}
+
+void tst_ColorWallArray::contentsAreOnTopOfTheFocusRectangle()
+{
+    class Wells : public WellArray
+    {
+    public:
+        explicit Wells(const RecordingStyle *style)
+            : WellArray(1, 1)
+            , m_style(style)
+        {
+        }
+
+        QVector<QStyle::PrimitiveElement> below;
+
+    protected:
+        void paintCellContents(QPainter *, int, int, const QRect &) override
+        {
+            for (const DrawnFrame &drawn : qAsConst(m_style->frames))
+                below.append(drawn.element);
+        }
+
+    private:
+        const RecordingStyle *const m_style;
+    };
+
+    // GIVEN a grid of one cell, which is the current one, with the keyboard
+    RecordingStyle style;
+    Wells wells(&style);
+    wells.setStyle(&style);
+    wells.resize(CellWidth, CellHeight);
+    QVERIFY(activate(&wells));
+
+    // WHEN it is painted
+    style.frames.clear();
+    wells.below.clear();
+    rendered(&wells);
+
+    // THEN its contents come after the frame and the rectangle
+    QCOMPARE(wells.below, QVector<QStyle::PrimitiveElement>({QStyle::PE_Frame, QStyle::PE_FrameFocusRect}));
 }
 
 void tst_ColorWallArray::plainCellIsACrossedOutWhite()
