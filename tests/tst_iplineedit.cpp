@@ -151,6 +151,8 @@ private Q_SLOTS:
     void leavingAFieldNormalisesAll();
     void leavingAnUnacceptableFieldNormalisesNothing();
     void returnKeyNormalises();
+    void everyFieldThatIsFinishedNormalises_data();
+    void everyFieldThatIsFinishedNormalises();
 
     // Validity
     void validTexts_data();
@@ -563,6 +565,11 @@ void tst_IPLineEdit::settingATextIsNoEdit()
     form.edit->setText(QStringLiteral("192.168.1.20"));
 
     QVERIFY(!form.edit->isModified());
+
+    // Even what the user has typed is none any more.
+    form.type(2, QStringLiteral("7"));
+    form.edit->setText(form.edit->text());
+    QVERIFY(!form.edit->isModified());
 }
 
 void tst_IPLineEdit::normalisingTakesLeadingZerosAway_data()
@@ -702,6 +709,31 @@ void tst_IPLineEdit::returnKeyNormalises()
 
     QCOMPARE(form.fields[2]->text(), QStringLiteral("7"));
     QCOMPARE(QApplication::focusWidget(), form.fields[2]);
+}
+
+void tst_IPLineEdit::everyFieldThatIsFinishedNormalises_data()
+{
+    QTest::addColumn<int>("index");
+    for (int index = 0; index < FieldCount; ++index)
+        QTest::addRow("field %d", index) << index;
+}
+
+void tst_IPLineEdit::everyFieldThatIsFinishedNormalises()
+{
+    QFETCH(int, index);
+    AddressForm form;
+    QVERIFY(form.isReady());
+    for (QLineEdit *field : qAsConst(form.fields))
+        field->setText(QStringLiteral("007"));
+    form.fields[index]->setFocus();
+    form.fields[index]->setText(QStringLiteral("10"));
+    QVERIFY(form.fields[index]->hasAcceptableInput());
+
+    QTest::keyClick(form.fields[index], Qt::Key_Return);
+
+    QStringList texts({QStringLiteral("7"), QStringLiteral("7"), QStringLiteral("7"), QStringLiteral("7")});
+    texts[index] = QStringLiteral("10");
+    QCOMPARE(textsOf(*form.edit), texts);
 }
 
 void tst_IPLineEdit::validTexts_data()

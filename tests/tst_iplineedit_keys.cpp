@@ -82,6 +82,22 @@ void type(const QString &digits)
         QTest::keyClick(QApplication::focusWidget(), digit.toLatin1());
 }
 
+// Keeps the reasons for which the widgets get the focus that it is installed on.
+class FocusWatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::FocusIn)
+            reasons.append(static_cast<QFocusEvent *>(event)->reason());
+        return false;
+    }
+
+    QVector<Qt::FocusReason> reasons;
+};
+
 /*
  * What the editor is to do with digits typed one after another behind the cursor, told without regular
  * expressions: by the list of all numbers that a field takes.
@@ -217,6 +233,12 @@ private Q_SLOTS:
     // Other keys
     void keysLeadFromFieldToField_data();
     void keysLeadFromFieldToField();
+    void keysLeadOutOfAnEmptyField_data();
+    void keysLeadOutOfAnEmptyField();
+    void modifiersDoNotMatterToKeysThatLead_data();
+    void modifiersDoNotMatterToKeysThatLead();
+    void focusThatAKeyMovesHasTheReasonOther_data();
+    void focusThatAKeyMovesHasTheReasonOther();
     void fullStopIsNotTyped_data();
     void fullStopIsNotTyped();
     void backspaceAtTheStartDeletesNothing();
@@ -734,6 +756,84 @@ void tst_IPLineEditKeys::keysLeadFromFieldToField()
         QCOMPARE(editor.fields[newIndex]->cursorPosition(), newCursor);
 }
 
+void tst_IPLineEditKeys::keysLeadOutOfAnEmptyField_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("newIndex"); // from field 2
+    QTest::newRow("Left") << int(Qt::Key_Left) << 1;
+    QTest::newRow("Backspace") << int(Qt::Key_Backspace) << 1;
+    QTest::newRow("Right") << int(Qt::Key_Right) << 3;
+    QTest::newRow("full stop") << int(Qt::Key_Period) << 3;
+}
+
+void tst_IPLineEditKeys::keysLeadOutOfAnEmptyField()
+{
+    QFETCH(int, key);
+    QFETCH(int, newIndex);
+    Editor editor;
+    QVERIFY(editor.isReady());
+    editor.enter(2);
+
+    press(key);
+
+    QCOMPARE(editor.focusIndex(), newIndex);
+}
+
+void tst_IPLineEditKeys::modifiersDoNotMatterToKeysThatLead_data()
+{
+    QTest::addColumn<int>("modifier");
+    QTest::newRow("Ctrl") << int(Qt::ControlModifier);
+    QTest::newRow("Shift") << int(Qt::ShiftModifier);
+    QTest::newRow("keypad") << int(Qt::KeypadModifier);
+}
+
+void tst_IPLineEditKeys::modifiersDoNotMatterToKeysThatLead()
+{
+    QFETCH(int, modifier);
+    Editor editor;
+    QVERIFY(editor.isReady());
+    editor.fill({QStringLiteral("11"), QStringLiteral("12"), QStringLiteral("13"), QStringLiteral("14")});
+
+    for (const auto &[key, newIndex] : {std::pair(Qt::Key_Left, 1), std::pair(Qt::Key_Backspace, 1),
+                                        std::pair(Qt::Key_Right, 3), std::pair(Qt::Key_Period, 3)}) {
+        editor.enter(2, newIndex == 1 ? 0 : 2);
+        QTest::keyClick(editor.fields[2], key, Qt::KeyboardModifier(modifier));
+        QCOMPARE(editor.focusIndex(), newIndex);
+    }
+}
+
+void tst_IPLineEditKeys::focusThatAKeyMovesHasTheReasonOther_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("cursor");
+    QTest::newRow("Left") << int(Qt::Key_Left) << 0;
+    QTest::newRow("Backspace") << int(Qt::Key_Backspace) << 0;
+    QTest::newRow("Right") << int(Qt::Key_Right) << 2;
+    QTest::newRow("full stop") << int(Qt::Key_Period) << 2;
+    QTest::newRow("digit") << int(Qt::Key_1) << 2;
+}
+
+void tst_IPLineEditKeys::focusThatAKeyMovesHasTheReasonOther()
+{
+    QFETCH(int, key);
+    QFETCH(int, cursor);
+
+    // GIVEN a number that has no room, with the cursor in it
+    Editor editor;
+    QVERIFY(editor.isReady());
+    editor.fill({QStringLiteral("11"), QStringLiteral("12"), QStringLiteral("77"), QStringLiteral("14")});
+    editor.enter(2, cursor);
+    FocusWatch watch;
+    for (QLineEdit *field : qAsConst(editor.fields))
+        field->installEventFilter(&watch);
+
+    // WHEN a key has the focus move on
+    press(key);
+
+    // THEN it has not moved as by Tab, of which an application may make something else
+    QCOMPARE(watch.reasons, QVector<Qt::FocusReason>({Qt::OtherFocusReason}));
+}
+
 void tst_IPLineEditKeys::fullStopIsNotTyped_data()
 {
     QTest::addColumn<int>("index");
@@ -864,8 +964,11 @@ void tst_IPLineEditKeys::mousePressAndFocusInAreMarkedIgnored()
                            Qt::NoModifier);
     QFocusEvent focusIn(QEvent::FocusIn, Qt::TabFocusReason);
 
+    QLineEdit other; // that the editor is asked to watch, too
+    const QVector<QLineEdit *> watched = editor.fields + QVector<QLineEdit *>({&other});
+
     for (QEvent *event : {static_cast<QEvent *>(&mousePress), static_cast<QEvent *>(&focusIn)}) {
-        for (QLineEdit *field : qAsConst(editor.fields)) {
+        for (QLineEdit *field : watched) {
             event->accept();
             QVERIFY(!editor.edit.eventFilter(field, event));
             QVERIFY(!event->isAccepted());
