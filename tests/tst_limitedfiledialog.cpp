@@ -76,6 +76,8 @@ private Q_SLOTS:
     void newDialogHasNoLimit();
     void newDialogIsWidgetBased_data();
     void newDialogIsWidgetBased();
+    void newDialogFollowsItsWidgets_data();
+    void newDialogFollowsItsWidgets();
     void nothingIsAddedToTheMetaObject();
 
     // Containment
@@ -196,6 +198,40 @@ void tst_LimitedFileDialog::newDialogIsWidgetBased()
         : std::make_unique<LimitedFileDialog>(nullptr, QString(), m_tree->root(), QString());
     QCOMPARE(dialog->options(), QFileDialog::Options(QFileDialog::DontUseNativeDialog));
     QVERIFY(FileDialogParts(dialog.get()).areThere());
+}
+
+void tst_LimitedFileDialog::newDialogFollowsItsWidgets_data()
+{
+    newDialogHasNoLimit_data();
+}
+
+void tst_LimitedFileDialog::newDialogFollowsItsWidgets()
+{
+    QFETCH(bool, flags);
+    const auto dialog = flags
+        ? std::make_unique<LimitedFileDialog>(nullptr, Qt::WindowFlags())
+        : std::make_unique<LimitedFileDialog>(nullptr, QString(), m_tree->root(), QString());
+    const FileDialogParts parts(dialog.get());
+    dialog->setDirectory(m_tree->at(QStringLiteral("@/root/sub")));
+    dialog->setLimitedPath(m_tree->root());
+
+    // The file name's text
+    parts.edit->setText(QStringLiteral("inner.txt"));
+    QVERIFY(parts.accepting()->isEnabled());
+    parts.edit->setText(QStringLiteral("../../outside/secret.txt"));
+    QVERIFY(!parts.accepting()->isEnabled());
+
+    // The folder that is entered
+    parts.toParent->setEnabled(false);
+    Q_EMIT dialog->directoryEntered(m_tree->at(QStringLiteral("@/root/sub")));
+    QVERIFY(parts.toParent->isEnabled());
+
+    // Keys
+    dialog->setDirectory(m_tree->root());
+    for (QWidget *view : {static_cast<QWidget *>(parts.list), static_cast<QWidget *>(parts.tree)}) {
+        QTest::keyClick(view, Qt::Key_Backspace);
+        QCOMPARE(parts.shown(), m_tree->root());
+    }
 }
 
 void tst_LimitedFileDialog::nothingIsAddedToTheMetaObject()
@@ -642,6 +678,9 @@ void tst_LimitedFileDialog::historyIsTheRoots_data()
     QTest::newRow("one root") << root << QString() << QStringList({root});
     QTest::newRow("two roots") << root << second << QStringList({root, second});
     QTest::newRow("second root missing") << root << QStringLiteral("@/none") << QStringList({root});
+    // Without a root, that root is the empty text.
+    QTest::newRow("no root") << QString() << QString() << QStringList({QString(), root});
+    QTest::newRow("no first root") << QString() << second << QStringList({QString(), second, root});
 }
 
 void tst_LimitedFileDialog::historyIsTheRoots()
@@ -995,6 +1034,12 @@ void tst_LimitedFileDialog::backspaceInTheViews()
         QCOMPARE(confined.dialog.eventFilter(confined.parts.tree, &press), swallowed);
         QVERIFY(!confined.dialog.eventFilter(confined.parts.edit, &press));
         QVERIFY(!confined.dialog.eventFilter(confined.parts.completions(), &press));
+        QObject other; // it is the name that makes a view
+        QVERIFY(!confined.dialog.eventFilter(&other, &press));
+        for (const auto &name : {QStringLiteral("listView"), QStringLiteral("treeView")}) {
+            other.setObjectName(name);
+            QCOMPARE(confined.dialog.eventFilter(&other, &press), swallowed);
+        }
     }
 }
 
