@@ -217,6 +217,8 @@ private Q_SLOTS:
     void chosenFileIsReturned_data();
     void chosenFileIsReturned();
     void severalFilesAreReturnedInOrder();
+    void ofSeveralFilesTheFirstIsReturned_data();
+    void ofSeveralFilesTheFirstIsReturned();
     void newNameCanBeSaved();
     void cancelReturnsNothing_data();
     void cancelReturnsNothing();
@@ -497,6 +499,33 @@ void tst_FramelessFileDialogGetters::severalFilesAreReturnedInOrder()
     QCOMPARE(
         FramelessFileDialog::getOpenFileUrls(m_parent.get(), caption(), QUrl::fromLocalFile(m_dir.path())),
         QList<QUrl>({QUrl::fromLocalFile(files.at(0)), QUrl::fromLocalFile(files.at(1))}));
+    QVERIFY(driver.ran());
+}
+
+void tst_FramelessFileDialogGetters::ofSeveralFilesTheFirstIsReturned_data()
+{
+    QTest::addColumn<Getter>("getter");
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("second");
+    const QString files[] = {QStringLiteral("two.txt"), QStringLiteral("one.txt")};
+    const QString newFiles[] = {QStringLiteral("new two.txt"), QStringLiteral("new one.txt")};
+    QTest::newRow("open") << ofUrl(FramelessFileDialog::getOpenFileUrl) << files[0] << files[1];
+    QTest::newRow("save") << ofUrl(FramelessFileDialog::getSaveFileUrl) << newFiles[0] << newFiles[1];
+}
+
+// Qt's dialog takes several names even where one is asked for.
+void tst_FramelessFileDialogGetters::ofSeveralFilesTheFirstIsReturned()
+{
+    QFETCH(Getter, getter);
+    QFETCH(QString, first);
+    QFETCH(QString, second);
+
+    expectAccepted();
+    ModalDriver driver([&](QWidget *dialog) {
+        typeAndAccept(QStringLiteral("\"%1\" \"%2\"").arg(first, second))(dialog);
+        QCOMPARE(dialogOf(dialog)->selectedUrls().size(), 2);
+    });
+    QCOMPARE(getter({m_parent.get(), m_dir.path(), QString(), nullptr, Options()}), QStringList(path(first)));
     QVERIFY(driver.ran());
 }
 
