@@ -50,6 +50,13 @@ private:
     const QFileDialog *const m_dialog;
 };
 
+/*! "@/root/link" leads out of the root, "@/outside/link" into it. */
+bool addLinks(const FileTree &tree)
+{
+    return QFile::link(tree.outside(), tree.at(QStringLiteral("@/root/link")))
+        && QFile::link(tree.at(QStringLiteral("@/root/sub")), tree.at(QStringLiteral("@/outside/link")));
+}
+
 } // namespace
 
 class tst_LimitedFileDialog : public QObject
@@ -610,6 +617,8 @@ void tst_LimitedFileDialog::parentAndBackFollowTheFolder_data()
     QTest::newRow("second root") << root << second << second << false;
     QTest::newRow("below the second root") << root << second << QStringLiteral("@/second/below") << true;
     QTest::newRow("outside both") << root << second << QStringLiteral("@/outside") << false;
+    QTest::newRow("link that leads out") << root << none << QStringLiteral("@/root/link") << true;
+    QTest::newRow("link that leads in") << root << none << QStringLiteral("@/outside/link") << false;
 }
 
 void tst_LimitedFileDialog::parentAndBackFollowTheFolder()
@@ -619,6 +628,7 @@ void tst_LimitedFileDialog::parentAndBackFollowTheFolder()
     QFETCH(QString, shown);
     QFETCH(bool, enabled);
 
+    QVERIFY(addLinks(*m_tree));
     Confined confined(*m_tree, shown, limit, limit1);
     QCOMPARE(confined.parts.shown(), m_tree->at(shown));
     for (const bool before : {false, true}) {
@@ -767,6 +777,9 @@ void tst_LimitedFileDialog::textIsTestedInTheFolderShown_data()
         {"back in", "@/outside", "../root/file.txt", true, ""},
         {"absolute and in, from outside", "@/outside", "@/root/file.txt", true, ""},
         {"a file in the file system's root", "/", "etc", false, ""},
+        {"a file behind a link that leads out", "@/root/link", "secret.txt", true, ""},
+        {"nothing, behind a link that leads out", "@/root/link", "", true, ""},
+        {"a file behind a link that leads in", "@/outside/link", "inner.txt", false, ""},
 
         {"over to the second root", "@/root", "../second", false, "@/second"},
         {"over into the second root", "@/root", "../second/two.txt", true, "@/second"},
@@ -788,6 +801,7 @@ void tst_LimitedFileDialog::textIsTestedInTheFolderShown()
     QFETCH(QString, text);
     QFETCH(bool, fits);
 
+    QVERIFY(addLinks(*m_tree));
     Confined confined(*m_tree, shown, QStringLiteral("@/root"), limit1);
     QCOMPARE(confined.parts.shown(), m_tree->at(shown));
     QAbstractButton *first = confined.parts.box->buttons().value(0);
@@ -833,6 +847,7 @@ void tst_LimitedFileDialog::returnAndEnterAreTestedLikeText()
     QFETCH(QString, text);
     QFETCH(bool, fits);
 
+    QVERIFY(addLinks(*m_tree));
     Confined confined(*m_tree, shown, QStringLiteral("@/root"), limit1);
     confined.parts.edit->setText(m_tree->at(text));
     for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
@@ -1019,6 +1034,8 @@ void tst_LimitedFileDialog::backspaceInTheViews_data()
     QTest::newRow("second root") << QStringLiteral("@/second") << QStringLiteral("@/second") << true;
     QTest::newRow("below the second root")
         << QStringLiteral("@/second") << QStringLiteral("@/second/below") << false;
+    QTest::newRow("link that leads out") << QString() << QStringLiteral("@/root/link") << false;
+    QTest::newRow("link that leads in") << QString() << QStringLiteral("@/outside/link") << true;
 }
 
 void tst_LimitedFileDialog::backspaceInTheViews()
@@ -1026,6 +1043,7 @@ void tst_LimitedFileDialog::backspaceInTheViews()
     QFETCH(QString, limit1);
     QFETCH(QString, shown);
     QFETCH(bool, swallowed);
+    QVERIFY(addLinks(*m_tree));
     Confined confined(*m_tree, shown, QStringLiteral("@/root"), limit1);
     for (const Qt::KeyboardModifiers modifiers :
          {Qt::KeyboardModifiers(), Qt::KeyboardModifiers(Qt::ShiftModifier)}) {

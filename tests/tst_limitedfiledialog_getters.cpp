@@ -484,6 +484,8 @@ void tst_LimitedFileDialogGetters::directoryGetterReturnsTheFolderShown_data()
         << QStringLiteral("@/root") << QStringLiteral("sub") << QStringLiteral("@/root");
     QTest::newRow("a deeper one is chosen")
         << QStringLiteral("@/root/sub") << QStringLiteral("deep/deepest") << QStringLiteral("@/root/sub");
+    QTest::newRow("behind a link") << QStringLiteral("@/root/link") << QString()
+                                   << QStringLiteral("@/root/link");
 }
 
 // Kept: the folder that the dialog shows is the result, not the one that the user has chosen in it.
@@ -492,6 +494,7 @@ void tst_LimitedFileDialogGetters::directoryGetterReturnsTheFolderShown()
     QFETCH(QString, dir);
     QFETCH(QString, text);
     QFETCH(QString, result);
+    QVERIFY(QFile::link(m_tree->second(), m_tree->at(QStringLiteral("@/root/link"))));
     Call call;
     call.getter = Directory;
     call.dir = dir;
