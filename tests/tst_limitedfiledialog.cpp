@@ -135,6 +135,8 @@ private Q_SLOTS:
     void lookInEntryNamesARoot();
     void lookInIsPrunedFromTheIndex_data();
     void lookInIsPrunedFromTheIndex();
+    void lookInIsPrunedToASecondRootAlone();
+    void lookInIsLeftAloneWithoutARoot();
     void lookInIsLeftAloneOtherwise();
 
     // Keys
@@ -1001,6 +1003,36 @@ void tst_LimitedFileDialog::lookInIsPrunedFromTheIndex()
             confined.dialog.checkComboBox(0);
         QCOMPARE(confined.parts.lookInTexts(), left);
     }
+}
+
+// There is no limit then, but the entries are still those that name a root: the second one, and by way of the
+// first, which is the empty text, the file system's root.
+void tst_LimitedFileDialog::lookInIsPrunedToASecondRootAlone()
+{
+    Confined confined(*m_tree, QStringLiteral("@/root"), QString(), QStringLiteral("@/second"));
+    QVERIFY(confined.dialog.pathFits(m_tree->outside()));
+    QComboBox *lookIn = confined.parts.lookIn;
+    {
+        const QSignalBlocker quiet(lookIn);
+        lookIn->clear();
+        lookIn->addItems({m_tree->root(), m_tree->second(), m_tree->outside(), QStringLiteral("/")});
+    }
+    confined.dialog.checkComboBox(0);
+    QCOMPARE(confined.parts.lookInTexts(), QStringList({m_tree->second(), QStringLiteral("/")}));
+}
+
+void tst_LimitedFileDialog::lookInIsLeftAloneWithoutARoot()
+{
+    Confined confined(*m_tree, QStringLiteral("@/root"), QString());
+    QComboBox *lookIn = confined.parts.lookIn;
+    const QStringList entries = {m_tree->root(), m_tree->outside(), QStringLiteral("/")};
+    {
+        const QSignalBlocker quiet(lookIn);
+        lookIn->clear();
+        lookIn->addItems(entries);
+    }
+    confined.dialog.checkComboBox(0);
+    QCOMPARE(confined.parts.lookInTexts(), entries);
 }
 
 void tst_LimitedFileDialog::lookInIsLeftAloneOtherwise()
