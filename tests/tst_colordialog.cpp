@@ -245,6 +245,7 @@ private Q_SLOTS:
     void cellThatDoesNotExistShowsNothing();
 
     void addedColorGoesIntoTheSelectedCell();
+    void pressWithoutClickAddsNothing();
     void additionsGoThroughTheGridAndBeginAgain();
     void addedColorKeepsItsAlpha();
     void additionRepaintsItsCellAtOnce();
@@ -782,6 +783,22 @@ void tst_ColorDialog::addedColorGoesIntoTheSelectedCell()
     dialog.parts.apply->click();
     QCOMPARE(dialog.seenCell(dialog.customGrid, Cell(1, 7)), Initial);
     QCOMPARE(dialog.selectedCell(), Cell(0, 0));
+}
+
+void tst_ColorDialog::pressWithoutClickAddsNothing()
+{
+    Dialog dialog;
+    QVERIFY(dialog.isComplete());
+    clickCell(dialog.customGrid, 0, 0);
+    dialog.setInitColor(Initial);
+    QPushButton *apply = dialog.parts.apply;
+    mousePress(apply, toGlobal(apply, QPointF(9, 9)));
+    QVERIFY(apply->isDown());
+    mouseMove(apply, toGlobal(apply, QPointF(-9, -9)));
+    QVERIFY(!apply->isDown());
+    mouseRelease(apply, toGlobal(apply, QPointF(-9, -9)));
+    QCOMPARE(dialog.selectedCell(), Cell(0, 0));
+    QCOMPARE(customColors(dialog.parts), QVector<QRgb>(16, 0xffffffff));
 }
 
 void tst_ColorDialog::additionsGoThroughTheGridAndBeginAgain()

@@ -4,6 +4,7 @@
 // What an application gets: the result of getColor(), and colours that outlive the dialog.
 
 #include "support/colordialogparts.h"
+#include "support/events.h"
 #include "support/functionguard.h"
 #include "support/modaldriver.h"
 
@@ -73,6 +74,18 @@ void pressEscape(ColorDialog *dialog, const ColorDialogParts &)
 void pressEnter(ColorDialog *dialog, const ColorDialogParts &)
 {
     QTest::keyClick(dialog, Qt::Key_Return);
+}
+
+/* Lets go beside the button, which is no click, and then presses Escape. */
+void pressWithoutClick(ColorDialog *dialog, QAbstractButton *button)
+{
+    mousePress(button, toGlobal(button, QPointF(9, 9)));
+    QVERIFY(button->isDown());
+    mouseMove(button, toGlobal(button, QPointF(-9, -9)));
+    QVERIFY(!button->isDown());
+    mouseRelease(button, toGlobal(button, QPointF(-9, -9)));
+    QVERIFY(dialog->isVisible());
+    QTest::keyClick(dialog, Qt::Key_Escape);
 }
 
 /* A result for those to come that leave it as it is. */
@@ -259,6 +272,12 @@ void tst_ColorDialog_use::otherWaysOutReturnTheFormerColor_data()
         [](ColorDialog *dialog, const ColorDialogParts &) { dialog->accept(); });
     QTest::newRow("hide()") << UserAction(
         [](ColorDialog *dialog, const ColorDialogParts &) { dialog->hide(); });
+    QTest::newRow("OK without a click") << UserAction(
+        [](ColorDialog *dialog, const ColorDialogParts &parts) { pressWithoutClick(dialog, parts.ok); });
+    QTest::newRow("cancel without a click") << UserAction(
+        [](ColorDialog *dialog, const ColorDialogParts &parts) { pressWithoutClick(dialog, parts.cancel); });
+    QTest::newRow("title bar's close button without a click") << UserAction(
+        [](ColorDialog *dialog, const ColorDialogParts &parts) { pressWithoutClick(dialog, parts.close); });
 }
 
 void tst_ColorDialog_use::otherWaysOutReturnTheFormerColor()
