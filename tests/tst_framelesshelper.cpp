@@ -50,6 +50,7 @@ private Q_SLOTS:
     void activationTurnsTrackingAndHoverOnAndKeepsTheFlags();
     void lettingGoRestoresTheWidget_data();
     void lettingGoRestoresTheWidget();
+    void lettingGoTurnsTrackingAndHoverOffWhoeverTurnedThemOn();
     void lettingGoWithUnchangedFlagsKeepsTheWidgetOnScreen();
     void removedWidgetIsNoLongerFiltered();
     void secondActivationIsIgnored();
@@ -259,6 +260,23 @@ void tst_FramelessHelper::lettingGoRestoresTheWidget()
     QVERIFY(panel.received.contains(QEvent::MouseMove));
     QVERIFY(panel.received.contains(QEvent::MouseButtonRelease));
     QCOMPARE(panel.geometry(), Frame);
+}
+
+void tst_FramelessHelper::lettingGoTurnsTrackingAndHoverOffWhoeverTurnedThemOn()
+{
+    // GIVEN a widget that had both before it was managed
+    Panel panel;
+    panel.setMouseTracking(true);
+    panel.setAttribute(Qt::WA_Hover);
+    FramelessHelper helper;
+    helper.activateOn(&panel);
+
+    // WHEN the helper lets go
+    helper.removeFrom(&panel);
+
+    // THEN it has neither
+    QVERIFY(!panel.hasMouseTracking());
+    QVERIFY(!panel.testAttribute(Qt::WA_Hover));
 }
 
 void tst_FramelessHelper::lettingGoWithUnchangedFlagsKeepsTheWidgetOnScreen()

@@ -104,9 +104,13 @@ private Q_SLOTS:
     void sideGoesBackWhenTheMinimumIsReached();
     void sideGoesBackToWhereItWasBeforeThisMove();
     void maximumSizeDoesNotHoldTheSideBack();
+    void minimumIsTheOneThatWasSetAndNotTheHint();
     void invertedRectangleIsDropped_data();
     void invertedRectangleIsDropped();
     void resizableIsReadAtEachMove();
+    void resizingADecoratedWindowBeginsAtItsFrame();
+    void maximisedAndFullScreenWidgetsResize_data();
+    void maximisedAndFullScreenWidgetsResize();
 
     // Fractions of a pixel
     void fractionsAreRoundedInTheTitleZone_data();
@@ -783,6 +787,28 @@ void tst_FramelessHelperDrag::maximumSizeDoesNotHoldTheSideBack()
     QCOMPARE(managed.panel.geometry(), QRect(0, 100, 220, 160));
 }
 
+/* Asks layouts for more room than it needs. */
+class GreedyPanel : public Panel
+{
+public:
+    QSize minimumSizeHint() const override
+    {
+        return {150, 100};
+    }
+};
+
+void tst_FramelessHelperDrag::minimumIsTheOneThatWasSetAndNotTheHint()
+{
+    GreedyPanel panel;
+    QCOMPARE(panel.minimumSize(), QSize(0, 0));
+    FramelessHelper helper;
+    helper.activateOn(&panel);
+
+    drag(&panel, QPoint(100, 200), QPoint(250, 320));
+
+    QCOMPARE(panel.geometry(), QRect(QPoint(250, 320), QPoint(299, 349)));
+}
+
 void tst_FramelessHelperDrag::invertedRectangleIsDropped_data()
 {
     QTest::addColumn<QPoint>("from");
@@ -793,6 +819,8 @@ void tst_FramelessHelperDrag::invertedRectangleIsDropped_data()
     QTest::newRow("top past bottom") << QPoint(200, 200) << QPoint(200, 349) << QPoint(200, 350);
     QTest::newRow("bottom past top") << QPoint(200, 350) << QPoint(200, 200) << QPoint(200, 199);
     QTest::newRow("corner, one side only") << QPoint(100, 200) << QPoint(299, 190) << QPoint(300, 190);
+    QTest::newRow("corner, one side only and by far")
+        << QPoint(100, 200) << QPoint(299, 190) << QPoint(360, 190);
 }
 
 void tst_FramelessHelperDrag::invertedRectangleIsDropped()
@@ -834,6 +862,42 @@ void tst_FramelessHelperDrag::resizableIsReadAtEachMove()
     managed.helper.setWidgetResizable(false);
     mouseMove(&managed.panel, OnTopEdge + QPoint(40, 30));
     QCOMPARE(managed.panel.pos(), Frame.topLeft() + QPoint(40, 30));
+}
+
+// The outer rectangle becomes the inner one, so that the window grows by its frame.
+void tst_FramelessHelperDrag::resizingADecoratedWindowBeginsAtItsFrame()
+{
+    Panel panel(Frame, Qt::Window);
+    QTRY_VERIFY(panel.frameGeometry() != panel.geometry());
+    const QRect frame = panel.frameGeometry();
+    FramelessHelper helper;
+    helper.activateOn(&panel);
+
+    mousePress(&panel, QPoint(frame.x() + frame.width(), frame.center().y()));
+    mouseMove(&panel, QPoint(frame.right() + 40, 0));
+
+    QCOMPARE(panel.geometry(), frame.adjusted(0, 0, 40, 0));
+}
+
+void tst_FramelessHelperDrag::maximisedAndFullScreenWidgetsResize_data()
+{
+    fullScreenAndMaximisedShowNoResizeCursor_data();
+}
+
+void tst_FramelessHelperDrag::maximisedAndFullScreenWidgetsResize()
+{
+    QFETCH(Qt::WindowState, state);
+    ManagedPanel managed;
+    managed.panel.setWindowState(state);
+    QCOMPARE(managed.panel.windowState(), Qt::WindowStates(state));
+    QCoreApplication::processEvents();
+    const QRect large = managed.panel.geometry();
+    QVERIFY(large != Frame);
+    const QPoint onRightEdge(large.right(), large.center().y());
+
+    drag(&managed.panel, onRightEdge, onRightEdge - QPoint(40, 0));
+
+    QCOMPARE(managed.panel.geometry(), large.adjusted(0, 0, -40, 0));
 }
 
 void tst_FramelessHelperDrag::fractionsAreRoundedInTheTitleZone_data()

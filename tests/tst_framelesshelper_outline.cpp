@@ -38,6 +38,8 @@ private Q_SLOTS:
     void outlineOfAResizeBeginsAtTheFrame_data();
     void outlineOfAResizeBeginsAtTheFrame();
     void resizeByOutlineIsAppliedOnRelease();
+    void outlineOfADecoratedWindowGoesByItsFrame_data();
+    void outlineOfADecoratedWindowGoesByItsFrame();
     void outlineKeepsToTheMinimumOfTheWidget();
     void outlineIgnoresTheMaximumOfTheWidget();
     void outlineForTheOtherDragStaysAway_data();
@@ -222,6 +224,40 @@ void tst_FramelessHelperOutline::resizeByOutlineIsAppliedOnRelease()
     mouseRelease(&managed.panel, QPoint(130, 360));
     QVERIFY(!band->isVisible());
     QCOMPARE(managed.panel.geometry(), second);
+}
+
+void tst_FramelessHelperOutline::outlineOfADecoratedWindowGoesByItsFrame_data()
+{
+    QTest::addColumn<bool>("onMove");
+    QTest::newRow("of a move") << true;
+    QTest::newRow("of a resize") << false;
+}
+
+void tst_FramelessHelperOutline::outlineOfADecoratedWindowGoesByItsFrame()
+{
+    QFETCH(bool, onMove);
+
+    // GIVEN a window with a platform frame around it
+    Panel panel(Frame, Qt::Window);
+    QTRY_VERIFY(panel.frameGeometry() != panel.geometry());
+    const QRect frame = panel.frameGeometry();
+    FramelessHelper helper;
+    helper.activateOn(&panel);
+    helper.setRubberBandOnMove(onMove);
+    helper.setRubberBandOnResize(!onMove);
+    const QRubberBand *band = onlyRubberBand();
+    QVERIFY(band);
+
+    // WHEN it is pressed
+    const QPoint from = onMove ? InTitle : QPoint(frame.x(), frame.center().y());
+    mousePress(&panel, from);
+
+    // THEN the outline lies along the frame, and the release makes the window's contents as large as that
+    const QRect outline = onMove ? frame.adjusted(10, 10, 0, 0) : frame;
+    QVERIFY(band->isVisible());
+    QCOMPARE(band->geometry(), outline);
+    mouseRelease(&panel, from);
+    QCOMPARE(panel.geometry(), outline);
 }
 
 void tst_FramelessHelperOutline::outlineKeepsToTheMinimumOfTheWidget()
