@@ -156,6 +156,7 @@ private Q_SLOTS:
 
     // State
     void switchTogglesBetweenMaximisedAndNormal();
+    void switchMaximisesAWindowOnTheFullScreen();
     void maximiseAndRestoreButtonsDriveTheState();
     void firstClickDecidesWhichOfThePairShows();
     void minimiseButtonMinimises();
@@ -852,6 +853,18 @@ void tst_FramelessWindow::switchTogglesBetweenMaximisedAndNormal()
         QVERIFY(window.isVisible());
     }
     QTRY_COMPARE(window.geometry(), QRect(100, 120, 300, 200));
+}
+
+void tst_FramelessWindow::switchMaximisesAWindowOnTheFullScreen()
+{
+    FramelessWindow window(nullptr);
+    window.setCentralWidget(new QWidget);
+    window.showFullScreen();
+    QVERIFY(window.isFullScreen());
+
+    window.swithMaxNormal();
+
+    QVERIFY(window.isMaximized());
 }
 
 void tst_FramelessWindow::maximiseAndRestoreButtonsDriveTheState()

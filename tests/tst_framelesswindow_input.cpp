@@ -3,9 +3,11 @@
 
 // What the window does with the mouse and with keys.
 
+#include "support/events.h"
 #include "support/functionguard.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -27,6 +29,7 @@ namespace {
 
 constexpr int Maximise = 2;
 constexpr int Restore = 3;
+constexpr int Close = 4;
 
 // The title bar is 800 pixels wide and 24 high. Its strip of buttons begins at x = 681 for a press and at x =
 // 680 for a double click.
@@ -143,6 +146,9 @@ private Q_SLOTS:
     void moveOverTheButtonStripIsIgnored_data();
     void moveOverTheButtonStripIsIgnored();
     void maximisedWindowIsNotDragged();
+    void pressOnAMaximisedWindowCountsOnceItIsRestored();
+    void fullScreenWindowIsDragged();
+    void decoratedWindowKeepsItsFrameUnderTheCursor();
     void releaseEndsTheDrag_data();
     void releaseEndsTheDrag();
     void releaseUnchecksTheTitleButtons();
@@ -151,6 +157,8 @@ private Q_SLOTS:
     void edgesDoNotResize_data();
     void edgesDoNotResize();
     void stripFollowsTheWidthOfTheWindow();
+    void stripFollowsTheHeightOfTheTitleBar();
+    void stripLiesAtTheTopOfTheWindowWhereverTheTitleBarIs();
 
     // Double click
     void doubleClickOnTheTitleTogglesMaximised_data();
@@ -161,8 +169,11 @@ private Q_SLOTS:
     void withoutTitleBarADoubleClickDoesNothing();
 
     // Keys
+    void escapeClosesTheWindow_data();
     void escapeClosesTheWindow();
+    void escapeIsACloseThatTheWindowMayRefuse();
     void escapeDoesNotAskTheCloseFunction();
+    void f11ClicksTheMaximiseButton_data();
     void f11ClicksTheMaximiseButton();
     void f11DoesNotClickADisabledButton();
     void otherKeysEndInTheWindow_data();
@@ -422,6 +433,53 @@ void tst_FramelessWindowInput::maximisedWindowIsNotDragged()
     QVERIFY(window.isMaximized());
 }
 
+void tst_FramelessWindowInput::pressOnAMaximisedWindowCountsOnceItIsRestored()
+{
+    // GIVEN a maximised window that is pressed
+    Window window;
+    window.showMaximized();
+    QTRY_COMPARE(window.geometry(), window.screen()->availableGeometry());
+    window.press(OnContent);
+    QVERIFY(!window.moveTo(OnContent + Step));
+
+    // WHEN it is restored with the button still down
+    window.showNormal();
+    QTRY_COMPARE(window.geometry(), QRect(Start, WindowSize));
+
+    // THEN it follows the cursor
+    QVERIFY(window.moveTo(OnContent));
+}
+
+void tst_FramelessWindowInput::fullScreenWindowIsDragged()
+{
+    Window window;
+    window.showFullScreen();
+    QTRY_COMPARE(window.geometry(), window.screen()->geometry());
+
+    window.press(OnContent);
+    QVERIFY(window.moveTo(OnContent + Step));
+
+    QCOMPARE(window.pos(), window.screen()->geometry().topLeft() + Step);
+}
+
+void tst_FramelessWindowInput::decoratedWindowKeepsItsFrameUnderTheCursor()
+{
+    // GIVEN a window to be placed that has no content yet, and therefore a platform frame
+    FramelessWindow window(true, nullptr);
+    window.setGeometry(QRect(Start, WindowSize));
+    window.show();
+    QTRY_VERIFY(window.frameGeometry() != window.geometry());
+    const QPoint place = window.frameGeometry().topLeft();
+    const QPoint from = window.mapToGlobal(OnContent);
+
+    // WHEN it is dragged
+    Tarn::Test::mousePress(&window, from);
+    Tarn::Test::mouseMove(&window, from + Step);
+
+    // THEN the frame goes as far as the cursor
+    QCOMPARE(window.frameGeometry().topLeft(), place + Step);
+}
+
 void tst_FramelessWindowInput::releaseEndsTheDrag_data()
 {
     QTest::addColumn<QPoint>("at");
@@ -536,6 +594,40 @@ void tst_FramelessWindowInput::stripFollowsTheWidthOfTheWindow()
     QVERIFY(window.moveTo(OnContent));
 }
 
+void tst_FramelessWindowInput::stripFollowsTheHeightOfTheTitleBar()
+{
+    // GIVEN a window with a title bar higher than usual
+    Window window;
+    window.getTitleBar()->setFixedHeight(40);
+    QTRY_COMPARE(window.getTitleBar()->height(), 40);
+
+    // THEN the strip reaches down to its end
+    window.press(QPoint(681, 39));
+    QVERIFY(!window.moveTo(OnContent));
+    window.press(QPoint(681, 40));
+    QVERIFY(window.moveTo(OnContent));
+
+    // and so does the room for double clicks
+    QVERIFY(!window.doubleClick(QPoint(300, 40)));
+    QVERIFY(window.doubleClick(QPoint(300, 39)));
+}
+
+void tst_FramelessWindowInput::stripLiesAtTheTopOfTheWindowWhereverTheTitleBarIs()
+{
+    // GIVEN a window with something above its title bar
+    Window window;
+    window.setContentsMargins(0, 50, 0, 0);
+    QTRY_COMPARE(window.getTitleBar()->mapTo(&window, QPoint()), QPoint(0, 50));
+
+    // THEN the bar's size counts from the window's corner
+    window.press(OnButtons);
+    QVERIFY(!window.moveTo(OnContent));
+    window.press(OnButtons + QPoint(0, 50));
+    QVERIFY(window.moveTo(OnContent));
+    QVERIFY(!window.doubleClick(OnTitle + QPoint(0, 50)));
+    QVERIFY(window.doubleClick(OnTitle));
+}
+
 void tst_FramelessWindowInput::doubleClickOnTheTitleTogglesMaximised_data()
 {
     QTest::addColumn<QPoint>("at");
@@ -612,12 +704,53 @@ void tst_FramelessWindowInput::withoutTitleBarADoubleClickDoesNothing()
     QVERIFY(!window.isMaximized());
 }
 
+static void addModifierRows()
+{
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::newRow("alone") << Qt::KeyboardModifiers();
+    QTest::newRow("with Shift") << Qt::KeyboardModifiers(Qt::ShiftModifier);
+    QTest::newRow("with Control and Alt") << (Qt::ControlModifier | Qt::AltModifier);
+}
+
+void tst_FramelessWindowInput::escapeClosesTheWindow_data()
+{
+    addModifierRows();
+}
+
 void tst_FramelessWindowInput::escapeClosesTheWindow()
 {
+    QFETCH(Qt::KeyboardModifiers, modifiers);
     Window window;
     QVERIFY(window.isVisible());
-    QVERIFY(pressKey(&window, Qt::Key_Escape));
+    QVERIFY(pressKey(&window, Qt::Key_Escape, modifiers));
     QVERIFY(!window.isVisible());
+}
+
+// Asks its user first, as editors do.
+class CarefulWindow : public Window
+{
+public:
+    int asked = 0;
+
+protected:
+    void closeEvent(QCloseEvent *event) override
+    {
+        ++asked;
+        event->ignore();
+    }
+};
+
+void tst_FramelessWindowInput::escapeIsACloseThatTheWindowMayRefuse()
+{
+    CarefulWindow window;
+    QVERIFY(pressKey(&window, Qt::Key_Escape));
+    QCOMPARE(window.asked, 1);
+    QVERIFY(window.isVisible());
+
+    // as the close button is
+    window.getTitleBar()->titleButton(Close)->click();
+    QCOMPARE(window.asked, 2);
+    QVERIFY(window.isVisible());
 }
 
 void tst_FramelessWindowInput::escapeDoesNotAskTheCloseFunction()
@@ -633,8 +766,15 @@ void tst_FramelessWindowInput::escapeDoesNotAskTheCloseFunction()
     QVERIFY(!window.isVisible());
 }
 
+void tst_FramelessWindowInput::f11ClicksTheMaximiseButton_data()
+{
+    addModifierRows();
+}
+
 void tst_FramelessWindowInput::f11ClicksTheMaximiseButton()
 {
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+
     // GIVEN a window
     Window window;
     QSignalSpy clicked(window.getTitleBar()->titleButton(Maximise), &QToolButton::clicked);
@@ -643,7 +783,7 @@ void tst_FramelessWindowInput::f11ClicksTheMaximiseButton()
     // changes
     for (const bool maximised : {true, false, true}) {
         clicked.clear();
-        QVERIFY(pressKey(&window, Qt::Key_F11));
+        QVERIFY(pressKey(&window, Qt::Key_F11, modifiers));
         QCOMPARE(clicked.count(), 1);
         QCOMPARE(window.isMaximized(), maximised);
         QCOMPARE(offersRestore(window), maximised);
