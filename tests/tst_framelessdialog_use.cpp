@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QBoxLayout>
+#include <QCloseEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -128,6 +129,7 @@ private Q_SLOTS:
     void largeStatesFillTheirAreaAndGoBack_data();
     void largeStatesFillTheirAreaAndGoBack();
     void switchTogglesBetweenMaximisedAndNormal();
+    void switchMaximisesADialogOnTheFullScreen();
     void maximiseAndRestoreButtonsDriveTheState();
     void minimiseButtonMinimises();
     void pressInTheDialogActivatesIt_data();
@@ -142,6 +144,8 @@ private Q_SLOTS:
     // Results
     void execReturnsTheResult_data();
     void execReturnsTheResult();
+    void buttonsGoThroughWhatASubclassOverrides_data();
+    void buttonsGoThroughWhatASubclassOverrides();
     void execThroughTheBaseClassIsTheSame();
     void openIsModalToTheWindowAndReportsTheResult();
     void returnKeyTakesTheDefaultButtonOnly();
@@ -417,6 +421,17 @@ void tst_FramelessDialogUse::switchTogglesBetweenMaximisedAndNormal()
     }
 }
 
+void tst_FramelessDialogUse::switchMaximisesADialogOnTheFullScreen()
+{
+    TestDialog dialog;
+    dialog.showFullScreen();
+    QVERIFY(dialog.isFullScreen());
+
+    dialog.swithMaxNormal();
+
+    QVERIFY(dialog.isMaximized());
+}
+
 void tst_FramelessDialogUse::maximiseAndRestoreButtonsDriveTheState()
 {
     // GIVEN a dialog on screen with the pair
@@ -676,6 +691,55 @@ void tst_FramelessDialogUse::execReturnsTheResult()
     QCOMPARE(dialog.result(), result);
     QCOMPARE(finished.count(), 1);
     QVERIFY(!dialog.isVisible());
+}
+
+// Notes in which way it is left, and does not let it happen.
+class StubbornDialog : public TestDialog
+{
+public:
+    QStringList ways;
+
+    void accept() override
+    {
+        ways.append(QStringLiteral("accept"));
+    }
+    void reject() override
+    {
+        ways.append(QStringLiteral("reject"));
+    }
+
+protected:
+    void closeEvent(QCloseEvent *event) override
+    {
+        ways.append(QStringLiteral("close"));
+        event->ignore();
+    }
+};
+
+void tst_FramelessDialogUse::buttonsGoThroughWhatASubclassOverrides_data()
+{
+    QTest::addColumn<Action>("action");
+    QTest::addColumn<QString>("way");
+    QTest::newRow("OK") << Action([](TestDialog &dialog) { click(dialog.m_pOKButton); })
+                        << QStringLiteral("accept");
+    QTest::newRow("Cancel") << Action([](TestDialog &dialog) { click(dialog.m_pCancelButton); })
+                            << QStringLiteral("reject");
+    QTest::newRow("the close button")
+        << Action([](TestDialog &dialog) { click(dialog.m_pTitleBar->titleButton(Close)); })
+        << QStringLiteral("close");
+}
+
+void tst_FramelessDialogUse::buttonsGoThroughWhatASubclassOverrides()
+{
+    QFETCH(Action, action);
+    QFETCH(QString, way);
+    StubbornDialog dialog;
+    dialog.show();
+
+    action(dialog);
+
+    QCOMPARE(dialog.ways, QStringList(way));
+    QVERIFY(dialog.isVisible());
 }
 
 void tst_FramelessDialogUse::execThroughTheBaseClassIsTheSame()

@@ -236,6 +236,7 @@ private Q_SLOTS:
 
     // The bare caption area
     void hitTestIsTrueOnTheBareBarOnly();
+    void hitTestIsFalseOnAnExtraButton();
     void hitTestPassesThroughHiddenPieces();
 
     // Language and accessibility
@@ -1045,6 +1046,20 @@ void tst_TitleBar::hitTestIsTrueOnTheBareBarOnly()
         const QPoint center = bar.titleButton(index)->geometry().center();
         QVERIFY(!bar.hitTest(center.x(), center.y()));
     }
+}
+
+void tst_TitleBar::hitTestIsFalseOnAnExtraButton()
+{
+    ShownBar bar;
+    QAction action(QStringLiteral("extra"));
+    bar.appendExtendTitleButton(&action, ButtonSize, IconSize);
+    const QToolButton *button = extraButton(bar, 0);
+    QTRY_VERIFY(button->isVisible());
+    const QRect place = button->geometry();
+
+    QVERIFY(!bar.hitTest(place.center().x(), place.center().y()));
+    QVERIFY(bar.hitTest(place.left() - 1, 12));
+    QVERIFY(bar.hitTest(place.right() + 1, 12));
 }
 
 void tst_TitleBar::hitTestPassesThroughHiddenPieces()
