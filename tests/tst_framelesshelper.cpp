@@ -61,6 +61,8 @@ private Q_SLOTS:
     // Which events are taken
     void fiveKindsOfEventsAreConsumed_data();
     void fiveKindsOfEventsAreConsumed();
+    void fiveKindsOfEventsAreConsumedWhereNothingIsToBeDone_data();
+    void fiveKindsOfEventsAreConsumedWhereNothingIsToBeDone();
     void eventsOfOthersPass();
     void otherButtonsAreConsumedAndDoNothing_data();
     void otherButtonsAreConsumedAndDoNothing();
@@ -332,6 +334,14 @@ void tst_FramelessHelper::secondActivationIsIgnored()
     QCOMPARE(managed.panel.windowFlags(), flags);
     mousePress(&managed.panel, InTitle);
     QVERIFY(managed.panel.received.contains(QEvent::MouseButtonPress));
+
+    // AND what somebody else has turned off since the first time stays off
+    managed.helper.activateOn(&managed.panel);
+    managed.panel.setMouseTracking(false);
+    managed.panel.setAttribute(Qt::WA_Hover, false);
+    managed.helper.activateOn(&managed.panel);
+    QVERIFY(!managed.panel.hasMouseTracking());
+    QVERIFY(!managed.panel.testAttribute(Qt::WA_Hover));
 }
 
 void tst_FramelessHelper::reactivationSavesTheFlagsAnew()
@@ -456,6 +466,30 @@ void tst_FramelessHelper::fiveKindsOfEventsAreConsumed()
     managed.panel.setMouseTracking(true);
     QCoreApplication::sendEvent(&managed.panel, event.get());
     QVERIFY(managed.panel.received.contains(event->type()));
+}
+
+void tst_FramelessHelper::fiveKindsOfEventsAreConsumedWhereNothingIsToBeDone_data()
+{
+    fiveKindsOfEventsAreConsumed_data();
+}
+
+void tst_FramelessHelper::fiveKindsOfEventsAreConsumedWhereNothingIsToBeDone()
+{
+    QFETCH(EventMaker, make);
+    QFETCH(bool, consumed);
+
+    // GIVEN a managed widget that is neither movable nor resizable
+    ManagedPanel managed;
+    managed.helper.setWidgetMovable(false);
+    managed.helper.setWidgetResizable(false);
+    managed.panel.received.clear();
+
+    // WHEN the event is sent to it
+    const std::unique_ptr<QEvent> event = make();
+    QCoreApplication::sendEvent(&managed.panel, event.get());
+
+    // THEN the same kinds are kept from it
+    QCOMPARE(managed.panel.received.contains(event->type()), !consumed);
 }
 
 void tst_FramelessHelper::eventsOfOthersPass()

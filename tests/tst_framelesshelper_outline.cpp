@@ -33,6 +33,8 @@ private Q_SLOTS:
     void outlineComesWithTheWidgetAndGoesWithIt();
     void outlineIsAWindowOfRectangleShape();
     void outlineOfAMoveIsInsetByTenAtLeftAndTop();
+    void outlineOfAMoveShowsWhateverMayMove_data();
+    void outlineOfAMoveShowsWhateverMayMove();
     void moveByOutlineIsAppliedOnRelease();
     void outlineOfAMoveNeedsThePressInTheTitle();
     void outlineOfAResizeBeginsAtTheFrame_data();
@@ -45,6 +47,8 @@ private Q_SLOTS:
     void outlineForTheOtherDragStaysAway_data();
     void outlineForTheOtherDragStaysAway();
     void hiddenOutlineAppliesNothing();
+    void outlineOfAnEdgeIsAppliedAfterAMove_data();
+    void outlineOfAnEdgeIsAppliedAfterAMove();
     void otherButtonsLeaveTheOutline();
     void outlineSwitchedOffDuringTheDragIsNotApplied();
     void outlineSwitchedOnDuringTheDragIsNotApplied();
@@ -127,6 +131,38 @@ void tst_FramelessHelperOutline::outlineOfAMoveIsInsetByTenAtLeftAndTop()
     mouseRelease(&managed.panel, InTitle);
     QVERIFY(!band->isVisible());
     QCOMPARE(managed.panel.geometry(), inset);
+}
+
+void tst_FramelessHelperOutline::outlineOfAMoveShowsWhateverMayMove_data()
+{
+    QTest::addColumn<bool>("movable");
+    QTest::addColumn<bool>("maximised");
+    QTest::newRow("a widget that is not movable") << false << false;
+    QTest::newRow("a maximised widget") << true << true;
+}
+
+void tst_FramelessHelperOutline::outlineOfAMoveShowsWhateverMayMove()
+{
+    QFETCH(bool, movable);
+    QFETCH(bool, maximised);
+    ManagedPanel managed;
+    managed.helper.setRubberBandOnMove(true);
+    managed.helper.setWidgetMovable(movable);
+    if (maximised)
+        managed.panel.setWindowState(Qt::WindowMaximized);
+    QCOMPARE(managed.panel.isMaximized(), maximised);
+    QCoreApplication::processEvents();
+    const QRect frame = managed.panel.frameGeometry();
+    const QRubberBand *band = onlyRubberBand();
+    QVERIFY(band);
+
+    const QPoint from = frame.topLeft() + QPoint(100, 20);
+    mousePress(&managed.panel, from);
+    QVERIFY(band->isVisible());
+    QCOMPARE(band->geometry(), frame.adjusted(10, 10, 0, 0));
+
+    mouseRelease(&managed.panel, from);
+    QCOMPARE(managed.panel.geometry(), frame.adjusted(10, 10, 0, 0));
 }
 
 void tst_FramelessHelperOutline::moveByOutlineIsAppliedOnRelease()
@@ -339,6 +375,43 @@ void tst_FramelessHelperOutline::hiddenOutlineAppliesNothing()
     QCOMPARE(band->pos(), Frame.topLeft() + QPoint(40, 30));
     mouseRelease(&managed.panel, OnTopEdge + QPoint(40, 30));
     QCOMPARE(managed.panel.geometry(), Frame);
+}
+
+void tst_FramelessHelperOutline::outlineOfAnEdgeIsAppliedAfterAMove_data()
+{
+    QTest::addColumn<bool>("onMoveToo");
+    QTest::addColumn<QRect>("meanwhile");
+    QTest::addColumn<QRect>("result");
+    QTest::newRow("outlines for both: it is the outline that moves")
+        << true << Frame << Frame.translated(40, 30);
+    QTest::newRow("for resizes only: the widget moves, and goes back")
+        << false << Frame.translated(40, 30) << Frame;
+}
+
+void tst_FramelessHelperOutline::outlineOfAnEdgeIsAppliedAfterAMove()
+{
+    QFETCH(bool, onMoveToo);
+    QFETCH(QRect, meanwhile);
+    QFETCH(QRect, result);
+
+    // GIVEN a widget that is not resizable, but movable by an edge in the title zone
+    ManagedPanel managed;
+    managed.helper.setRubberBandOnMove(onMoveToo);
+    managed.helper.setRubberBandOnResize(true);
+    managed.helper.setWidgetResizable(false);
+    const QRubberBand *band = onlyRubberBand();
+    QVERIFY(band);
+
+    // WHEN it is dragged there, THEN the outline of the press is on the screen
+    mousePress(&managed.panel, OnTopEdge);
+    mouseMove(&managed.panel, OnTopEdge + QPoint(40, 30));
+    QVERIFY(band->isVisible());
+    QCOMPARE(band->geometry(), result);
+    QCOMPARE(managed.panel.geometry(), meanwhile);
+
+    // AND the release applies it
+    mouseRelease(&managed.panel, OnTopEdge + QPoint(40, 30));
+    QCOMPARE(managed.panel.geometry(), result);
 }
 
 void tst_FramelessHelperOutline::otherButtonsLeaveTheOutline()
