@@ -130,6 +130,7 @@ private Q_SLOTS:
     void largeStatesFillTheirAreaAndGoBack();
     void switchTogglesBetweenMaximisedAndNormal();
     void switchMaximisesADialogOnTheFullScreen();
+    void switchShowsAHiddenDialog();
     void maximiseAndRestoreButtonsDriveTheState();
     void minimiseButtonMinimises();
     void pressInTheDialogActivatesIt_data();
@@ -430,6 +431,17 @@ void tst_FramelessDialogUse::switchMaximisesADialogOnTheFullScreen()
     dialog.swithMaxNormal();
 
     QVERIFY(dialog.isMaximized());
+}
+
+void tst_FramelessDialogUse::switchShowsAHiddenDialog()
+{
+    TestDialog dialog;
+    for (const bool maximised : {true, false}) {
+        dialog.hide();
+        dialog.swithMaxNormal();
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(dialog.isMaximized(), maximised);
+    }
 }
 
 void tst_FramelessDialogUse::maximiseAndRestoreButtonsDriveTheState()

@@ -157,8 +157,10 @@ private Q_SLOTS:
     // State
     void switchTogglesBetweenMaximisedAndNormal();
     void switchMaximisesAWindowOnTheFullScreen();
+    void switchShowsAHiddenWindow();
     void maximiseAndRestoreButtonsDriveTheState();
     void firstClickDecidesWhichOfThePairShows();
+    void restoreButtonOfAPlacedWindowMaximises();
     void minimiseButtonMinimises();
     void closeButtonClosesUnlessTheCloseFunctionRefuses();
     void closeIsAcceptedAsAWidgetDoes();
@@ -867,6 +869,18 @@ void tst_FramelessWindow::switchMaximisesAWindowOnTheFullScreen()
     QVERIFY(window.isMaximized());
 }
 
+void tst_FramelessWindow::switchShowsAHiddenWindow()
+{
+    FramelessWindow window(nullptr);
+    window.setCentralWidget(new QWidget);
+    for (const bool maximised : {true, false}) {
+        window.hide();
+        window.swithMaxNormal();
+        QVERIFY(window.isVisible());
+        QCOMPARE(window.isMaximized(), maximised);
+    }
+}
+
 void tst_FramelessWindow::maximiseAndRestoreButtonsDriveTheState()
 {
     // GIVEN a window on screen whose title bar knows the state
@@ -897,6 +911,22 @@ void tst_FramelessWindow::firstClickDecidesWhichOfThePairShows()
     click(window, Maximise);
     QVERIFY(window.isMaximized());
     QVERIFY(offersRestore(window) && !offersMaximise(window));
+}
+
+// A placed window's title bar is told that it is maximised, and the window goes by its state alone.
+void tst_FramelessWindow::restoreButtonOfAPlacedWindowMaximises()
+{
+    FramelessWindow window(true, nullptr);
+    window.setCentralWidget(new QWidget);
+    window.show();
+    QSignalSpy normaled(window.getTitleBar(), &TitleBar::normaled);
+
+    click(window, Restore);
+    QCOMPARE(normaled.count(), 1);
+    QVERIFY(window.isMaximized());
+
+    click(window, Maximise);
+    QVERIFY(!window.isMaximized());
 }
 
 void tst_FramelessWindow::minimiseButtonMinimises()

@@ -143,6 +143,7 @@ private Q_SLOTS:
     void pressInTheStripEndsADrag();
     void windowFollowsTheCursor();
     void moveWithoutPressIsIgnored();
+    void dragGoesOnUntilAReleaseIsHeardOf();
     void moveOverTheButtonStripIsIgnored_data();
     void moveOverTheButtonStripIsIgnored();
     void maximisedWindowIsNotDragged();
@@ -383,6 +384,18 @@ void tst_FramelessWindowInput::moveWithoutPressIsIgnored()
     QVERIFY(!window.moveTo(OnTitle, Qt::NoButton));
     QVERIFY(!window.moveTo(OnContent, Qt::LeftButton));
     QCOMPARE(window.pos(), Start);
+}
+
+void tst_FramelessWindowInput::dragGoesOnUntilAReleaseIsHeardOf()
+{
+    // GIVEN a drag whose release went elsewhere, of a window that hears of moves without a button
+    Window window;
+    window.setMouseTracking(true);
+    window.press(OnTitle);
+
+    // THEN the window follows the cursor though no button is held
+    QVERIFY(window.moveTo(OnTitle + Step, Qt::NoButton));
+    QCOMPARE(window.pos(), Start + Step);
 }
 
 void tst_FramelessWindowInput::moveOverTheButtonStripIsIgnored_data()
