@@ -108,6 +108,7 @@ private Q_SLOTS:
     void invertedRectangleIsDropped_data();
     void invertedRectangleIsDropped();
     void resizableIsReadAtEachMove();
+    void whatIsNotMovableIsResizedAllTheSame();
     void resizingADecoratedWindowBeginsAtItsFrame();
     void maximisedAndFullScreenWidgetsResize_data();
     void maximisedAndFullScreenWidgetsResize();
@@ -862,6 +863,20 @@ void tst_FramelessHelperDrag::resizableIsReadAtEachMove()
     managed.helper.setWidgetResizable(false);
     mouseMove(&managed.panel, OnTopEdge + QPoint(40, 30));
     QCOMPARE(managed.panel.pos(), Frame.topLeft() + QPoint(40, 30));
+}
+
+void tst_FramelessHelperDrag::whatIsNotMovableIsResizedAllTheSame()
+{
+    ManagedPanel managed;
+    managed.helper.setWidgetMovable(false);
+
+    hoverMove(&managed.panel, local(OnRightEdge));
+    QCOMPARE(managed.panel.cursor().shape(), Qt::SizeHorCursor);
+    moveAlone(managed.helper, managed.panel, OnBottomEdge);
+    QCOMPARE(managed.panel.cursor().shape(), Qt::SizeVerCursor);
+
+    drag(&managed.panel, OnRightEdge, QPoint(350, 275));
+    QCOMPARE(managed.panel.geometry(), QRect(QPoint(100, 200), QPoint(350, 349)));
 }
 
 // The outer rectangle becomes the inner one, so that the window grows by its frame.

@@ -158,6 +158,7 @@ private Q_SLOTS:
     void switchTogglesBetweenMaximisedAndNormal();
     void switchMaximisesAWindowOnTheFullScreen();
     void switchShowsAHiddenWindow();
+    void stateThatComesFromElsewhereLeavesTheTitleBar();
     void maximiseAndRestoreButtonsDriveTheState();
     void firstClickDecidesWhichOfThePairShows();
     void restoreButtonOfAPlacedWindowMaximises();
@@ -879,6 +880,22 @@ void tst_FramelessWindow::switchShowsAHiddenWindow()
         QVERIFY(window.isVisible());
         QCOMPARE(window.isMaximized(), maximised);
     }
+}
+
+void tst_FramelessWindow::stateThatComesFromElsewhereLeavesTheTitleBar()
+{
+    // GIVEN a window whose title bar knows the state
+    FramelessWindow window(nullptr);
+    window.setCentralWidget(new QWidget);
+    window.getTitleBar()->setMaximized(false);
+    window.show();
+
+    // WHEN somebody else changes the state, THEN the title bar offers what it did
+    window.showMaximized();
+    QVERIFY(window.isMaximized());
+    QVERIFY(offersMaximise(window) && !offersRestore(window));
+    window.showNormal();
+    QVERIFY(offersMaximise(window) && !offersRestore(window));
 }
 
 void tst_FramelessWindow::maximiseAndRestoreButtonsDriveTheState()

@@ -177,6 +177,7 @@ private Q_SLOTS:
     void f11ClicksTheMaximiseButton_data();
     void f11ClicksTheMaximiseButton();
     void f11DoesNotClickADisabledButton();
+    void f11MaximisesAWindowWithoutTitleBar();
     void otherKeysEndInTheWindow_data();
     void otherKeysEndInTheWindow();
     void keysThatTheContentWantsDoNotReachTheWindow();
@@ -809,6 +810,15 @@ void tst_FramelessWindowInput::f11DoesNotClickADisabledButton()
     window.getTitleBar()->titleButton(Maximise)->setEnabled(false);
     QVERIFY(pressKey(&window, Qt::Key_F11));
     QVERIFY(!window.isMaximized());
+}
+
+void tst_FramelessWindowInput::f11MaximisesAWindowWithoutTitleBar()
+{
+    Window window(false);
+    for (const bool maximised : {true, false}) {
+        QVERIFY(pressKey(&window, Qt::Key_F11));
+        QCOMPARE(window.isMaximized(), maximised);
+    }
 }
 
 void tst_FramelessWindowInput::otherKeysEndInTheWindow_data()
