@@ -90,6 +90,8 @@ private Q_SLOTS:
     void maximisedAndFullScreenWidgetsMove_data();
     void maximisedAndFullScreenWidgetsMove();
     void dragLastsFromTheLeftPressToTheLeftRelease();
+    void leftButtonCountsWhateverElseIsHeld_data();
+    void leftButtonCountsWhateverElseIsHeld();
     void movableIsReadAtEachMove();
     void pressOutsideTitleAndBorderDoesNothing();
     void edgeInTheTitleZoneMovesWhatIsNotResizable();
@@ -568,6 +570,36 @@ void tst_FramelessHelperDrag::dragLastsFromTheLeftPressToTheLeftRelease()
     // The left release does
     mouseRelease(&managed.panel, InTitle + QPoint(40, 30));
     mouseMove(&managed.panel, InTitle);
+    QCOMPARE(managed.panel.geometry(), Frame.translated(40, 30));
+}
+
+void tst_FramelessHelperDrag::leftButtonCountsWhateverElseIsHeld_data()
+{
+    QTest::addColumn<bool>("rightButton");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::newRow("the right button") << true << Qt::KeyboardModifiers();
+    QTest::newRow("Shift") << false << Qt::KeyboardModifiers(Qt::ShiftModifier);
+    QTest::newRow("Control and Alt") << false << (Qt::ControlModifier | Qt::AltModifier);
+}
+
+void tst_FramelessHelperDrag::leftButtonCountsWhateverElseIsHeld()
+{
+    QFETCH(bool, rightButton);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    ManagedPanel managed;
+    const Qt::MouseButtons others = rightButton ? Qt::RightButton : Qt::NoButton;
+    const auto send = [&](QEvent::Type type, const QPoint &at, Qt::MouseButton button, bool leftIsDown) {
+        const Qt::MouseButtons held = leftIsDown ? others | Qt::LeftButton : others;
+        QMouseEvent event(type, managed.panel.mapFromGlobal(at), at, button, held, modifiers);
+        QCoreApplication::sendEvent(&managed.panel, &event);
+    };
+
+    send(QEvent::MouseButtonPress, InTitle, Qt::LeftButton, true);
+    send(QEvent::MouseMove, InTitle + QPoint(40, 30), Qt::NoButton, true);
+    QCOMPARE(managed.panel.geometry(), Frame.translated(40, 30));
+
+    send(QEvent::MouseButtonRelease, InTitle + QPoint(40, 30), Qt::LeftButton, false);
+    send(QEvent::MouseMove, InTitle, Qt::NoButton, false);
     QCOMPARE(managed.panel.geometry(), Frame.translated(40, 30));
 }
 

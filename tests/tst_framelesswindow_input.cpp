@@ -72,11 +72,15 @@ public:
         return send(QEvent::MouseButtonDblClick, at, button, button);
     }
 
+    // What is held besides.
+    Qt::KeyboardModifiers modifiers;
+    Qt::MouseButtons otherButtons;
+
 private:
     // Whether the event was accepted. The position is on the window where it is now.
     bool send(QEvent::Type type, const QPoint &at, Qt::MouseButton button, Qt::MouseButtons held)
     {
-        QMouseEvent event(type, at, at, mapToGlobal(at), button, held, Qt::NoModifier);
+        QMouseEvent event(type, at, at, mapToGlobal(at), button, held | otherButtons, modifiers);
         event.ignore();
         QCoreApplication::sendEvent(this, &event);
         return event.isAccepted();
@@ -140,6 +144,7 @@ private Q_SLOTS:
     void otherButtonsDoNotStartADrag_data();
     void otherButtonsDoNotStartADrag();
     void otherButtonsDoNotDisturbADrag();
+    void leftButtonCountsWhateverElseIsHeld();
     void pressInTheStripEndsADrag();
     void windowFollowsTheCursor();
     void moveWithoutPressIsIgnored();
@@ -343,6 +348,22 @@ void tst_FramelessWindowInput::otherButtonsDoNotDisturbADrag()
     // THEN the drag goes on from where it began
     QVERIFY(window.moveTo(OnTitle + Step));
     QCOMPARE(window.pos(), Start + Step);
+}
+
+void tst_FramelessWindowInput::leftButtonCountsWhateverElseIsHeld()
+{
+    Window window;
+    window.modifiers = Qt::ShiftModifier | Qt::ControlModifier;
+    window.otherButtons = Qt::RightButton;
+
+    window.press(OnTitle);
+    QVERIFY(window.moveTo(OnTitle + Step));
+    QCOMPARE(window.pos(), Start + Step);
+    window.release(OnTitle);
+    QVERIFY(!window.moveTo(OnTitle + Step));
+
+    QVERIFY(window.doubleClick(OnTitle));
+    QVERIFY(window.isMaximized());
 }
 
 void tst_FramelessWindowInput::pressInTheStripEndsADrag()

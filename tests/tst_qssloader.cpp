@@ -40,6 +40,8 @@ private Q_SLOTS:
 
     void textOfTheFileIsReturned_data();
     void textOfTheFileIsReturned();
+    void pathIsTakenAsItStands_data();
+    void pathIsTakenAsItStands();
     void fileThatCannotBeReadGivesNull_data();
     void fileThatCannotBeReadGivesNull();
     void pathThatIsNoneGivesNull_data();
@@ -125,6 +127,25 @@ void tst_QssLoader::textOfTheFileIsReturned()
 
     // THEN this is its text
     QCOMPARE(QssLoader::load(file), text);
+}
+
+void tst_QssLoader::pathIsTakenAsItStands_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("blanks at both ends") << QStringLiteral(" sheet.qss ");
+    QTest::newRow("a percent sign") << QStringLiteral("%41%20.qss");
+    QTest::newRow("a backslash") << QStringLiteral("sheet\\dark.qss");
+    QTest::newRow("a variable and a home") << QStringLiteral("~$HOME${HOME}.qss");
+    QTest::newRow("wild cards") << QStringLiteral("*?[a].qss");
+    QTest::newRow("a line feed") << QStringLiteral("sheet\n.qss");
+    QTest::newRow("letters beyond ASCII") << QStringLiteral("\u8272\u00e4.qss");
+}
+
+void tst_QssLoader::pathIsTakenAsItStands()
+{
+    QFETCH(QString, name);
+    QVERIFY(write(path(name), QByteArrayLiteral("QWidget {}")));
+    QCOMPARE(QssLoader::load(path(name)), QStringLiteral("QWidget {}"));
 }
 
 void tst_QssLoader::fileThatCannotBeReadGivesNull_data()
