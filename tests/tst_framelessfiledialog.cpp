@@ -130,10 +130,16 @@ QVariant toVariant(const void *pointer)
     return QVariant::fromValue(quintptr(pointer));
 }
 
+/* Turns something of a dialog on or off. */
+using Switch = std::function<void(FramelessFileDialog &, bool)>;
+
 } // namespace
 
 Q_DECLARE_METATYPE(Call)
 Q_DECLARE_METATYPE(Constructor)
+Q_DECLARE_METATYPE(Switch)
+Q_DECLARE_METATYPE(QFileDialog::Option)
+Q_DECLARE_METATYPE(QFileDialog::DialogLabel)
 
 class tst_FramelessFileDialog : public QObject
 {
@@ -169,6 +175,10 @@ private Q_SLOTS:
     // Forwarding
     void operationDoesWhatItDoesInQFileDialog_data();
     void operationDoesWhatItDoesInQFileDialog();
+    void switchesGoBothWays_data();
+    void switchesGoBothWays();
+    void everyLabelIsForwarded_data();
+    void everyLabelIsForwarded();
     void freshDialogAnswersAsAQFileDialog_data();
     void freshDialogAnswersAsAQFileDialog();
     void stateIsSavedAndRestored();
@@ -501,6 +511,62 @@ void tst_FramelessFileDialog::operationDoesWhatItDoesInQFileDialog()
     QCOMPARE(set.onOurs(ours), result);
     QCOMPARE(get.onOurs(ours), get.onQt(qt));
     QCOMPARE(get.onQt(*innerOf(ours)), get.onQt(qt));
+}
+
+void tst_FramelessFileDialog::switchesGoBothWays_data()
+{
+    QTest::addColumn<Switch>("set");
+    QTest::addColumn<QFileDialog::Option>("option");
+    QTest::addColumn<bool>("meansOn");
+    QTest::newRow("setNameFilterDetailsVisible") << Switch(&FramelessFileDialog::setNameFilterDetailsVisible)
+                                                 << QFileDialog::HideNameFilterDetails << false;
+    QTest::newRow("setReadOnly") << Switch(&FramelessFileDialog::setReadOnly) << QFileDialog::ReadOnly
+                                 << true;
+    QTest::newRow("setResolveSymlinks")
+        << Switch(&FramelessFileDialog::setResolveSymlinks) << QFileDialog::DontResolveSymlinks << false;
+    QTest::newRow("setConfirmOverwrite")
+        << Switch(&FramelessFileDialog::setConfirmOverwrite) << QFileDialog::DontConfirmOverwrite << false;
+    QTest::newRow("setOption") << Switch(
+        [](FramelessFileDialog &dialog, bool on) { dialog.setOption(QFileDialog::ShowDirsOnly, on); })
+                               << QFileDialog::ShowDirsOnly << true;
+}
+
+void tst_FramelessFileDialog::switchesGoBothWays()
+{
+    QFETCH(const Switch, set);
+    QFETCH(QFileDialog::Option, option);
+    QFETCH(bool, meansOn);
+
+    FramelessFileDialog dialog;
+    for (const bool on : {true, false, true}) {
+        set(dialog, on);
+        QCOMPARE(innerOf(dialog)->testOption(option), on == meansOn);
+        QCOMPARE(dialog.testOption(option), on == meansOn);
+    }
+}
+
+void tst_FramelessFileDialog::everyLabelIsForwarded_data()
+{
+    QTest::addColumn<QFileDialog::DialogLabel>("label");
+    QTest::newRow("look in") << QFileDialog::LookIn;
+    QTest::newRow("file name") << QFileDialog::FileName;
+    QTest::newRow("file type") << QFileDialog::FileType;
+    QTest::newRow("accept") << QFileDialog::Accept;
+    QTest::newRow("reject") << QFileDialog::Reject;
+}
+
+void tst_FramelessFileDialog::everyLabelIsForwarded()
+{
+    QFETCH(QFileDialog::DialogLabel, label);
+
+    const QString text = QStringLiteral("A text of its own");
+    FramelessFileDialog dialog;
+    dialog.setLabelText(label, text);
+    for (const auto each : {QFileDialog::LookIn, QFileDialog::FileName, QFileDialog::FileType,
+                            QFileDialog::Accept, QFileDialog::Reject}) {
+        QCOMPARE(innerOf(dialog)->labelText(each) == text, each == label);
+        QCOMPARE(dialog.labelText(each), innerOf(dialog)->labelText(each));
+    }
 }
 
 void tst_FramelessFileDialog::freshDialogAnswersAsAQFileDialog_data()
