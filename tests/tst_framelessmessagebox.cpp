@@ -8,8 +8,10 @@
 #include "support/messageboxparts.h"
 #include "support/testdialog.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QFocusEvent>
 #include <QLabel>
 #include <QMetaProperty>
 #include <QPointer>
@@ -38,6 +40,20 @@ QLabel *mainLabel(const FramelessMessageBox &box)
 {
     return label(box, QStringLiteral("qt_msgbox_label"));
 }
+
+/* Why a widget got the focus, each time. */
+class FocusReasons : public QObject
+{
+public:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::FocusIn)
+            reasons.append(static_cast<QFocusEvent *>(event)->reason());
+        return false;
+    }
+
+    QList<Qt::FocusReason> reasons;
+};
 
 QList<int> order(const FramelessMessageBox &box)
 {
@@ -77,6 +93,7 @@ private Q_SLOTS:
     // Construction and properties
     void emptyBoxIsModalAndEmpty();
     void constructorTakesItsArguments();
+    void constructorTakesTitleOrTextAlone();
     void windowFlags_data();
     void windowFlags();
     void propertiesAreReadWriteDesignableScriptableStored_data();
@@ -112,9 +129,11 @@ private Q_SLOTS:
     void foreignButtonIsLeftAlone();
     void resultCodesFollowTheOrderOfAddition();
     void setOfButtonsForgetsTheSpecialOnesOfTheFormer();
+    void setOfButtonsKeepsACustomDefaultButton();
     void setOfButtonsForgetsThoseTakenBehindItsBack();
     void newButtonAtADeadOnesAddressIsNotTakenForIt();
     void defaultButtonIsDefaultAndFocused();
+    void defaultButtonIsFocusedForNoReasonOfTheUsers();
     void strangersAreNeitherDefaultNorEscapeButton();
     void okIsAddedToABoxWithoutButtonsOnly_data();
     void okIsAddedToABoxWithoutButtonsOnly();
@@ -166,6 +185,16 @@ void tst_FramelessMessageBox::constructorTakesItsArguments()
     QCOMPARE(box.icon(), QMessageBox::Critical);
     QVERIFY(!box.iconPixmap().isNull());
     QCOMPARE(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+}
+
+void tst_FramelessMessageBox::constructorTakesTitleOrTextAlone()
+{
+    const FramelessMessageBox titled(QMessageBox::NoIcon, QStringLiteral("Title"), QString());
+    QCOMPARE(titled.windowTitle(), QStringLiteral("Title"));
+    QCOMPARE(titled.text(), QString());
+    const FramelessMessageBox untitled(QMessageBox::NoIcon, QString(), QStringLiteral("Text"));
+    QCOMPARE(untitled.windowTitle(), QString());
+    QCOMPARE(untitled.text(), QStringLiteral("Text"));
 }
 
 void tst_FramelessMessageBox::windowFlags_data()
@@ -663,6 +692,15 @@ void tst_FramelessMessageBox::setOfButtonsForgetsTheSpecialOnesOfTheFormer()
     QCOMPARE(box.buttons().size(), 2);
 }
 
+void tst_FramelessMessageBox::setOfButtonsKeepsACustomDefaultButton()
+{
+    FramelessMessageBox box;
+    QPushButton *custom = box.addButton(QStringLiteral("custom"), QMessageBox::AcceptRole);
+    box.setDefaultButton(custom);
+    box.setStandardButtons(QMessageBox::Save);
+    QCOMPARE(box.defaultButton(), custom);
+}
+
 void tst_FramelessMessageBox::setOfButtonsForgetsThoseTakenBehindItsBack()
 {
     FramelessMessageBox box;
@@ -710,6 +748,23 @@ void tst_FramelessMessageBox::defaultButtonIsDefaultAndFocused()
     QCOMPARE(outcome.code(), int(QMessageBox::No));
 }
 
+void tst_FramelessMessageBox::defaultButtonIsFocusedForNoReasonOfTheUsers()
+{
+    // GIVEN an active box whose focus is elsewhere
+    FramelessMessageBox box;
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    show(box);
+    QApplication::setActiveWindow(&box);
+    box.button(QMessageBox::Yes)->setFocus();
+    QVERIFY(box.button(QMessageBox::Yes)->hasFocus());
+    FocusReasons seen;
+    box.button(QMessageBox::No)->installEventFilter(&seen);
+
+    // WHEN the program makes another button the default THEN the focus comes as the program moves it
+    box.setDefaultButton(QMessageBox::No);
+    QCOMPARE(seen.reasons, QList<Qt::FocusReason>{Qt::OtherFocusReason});
+}
+
 void tst_FramelessMessageBox::strangersAreNeitherDefaultNorEscapeButton()
 {
     QPushButton stranger;
@@ -745,6 +800,13 @@ void tst_FramelessMessageBox::okIsAddedToABoxWithoutButtonsOnly_data()
         [](FramelessMessageBox &box) { box.addButton(QStringLiteral("c"), QMessageBox::HelpRole); }, false);
     add(
         "a set", [](FramelessMessageBox &box) { box.setStandardButtons(QMessageBox::Help); }, false);
+    add(
+        "a set and details",
+        [](FramelessMessageBox &box) {
+            box.setStandardButtons(QMessageBox::Help);
+            box.setDetailedText(QStringLiteral("d"));
+        },
+        false);
     add(
         "an empty set", [](FramelessMessageBox &box) { box.setStandardButtons(QMessageBox::NoButton); },
         false);
