@@ -17,6 +17,7 @@
 #include <QScreen>
 #include <QStyleOptionButton>
 #include <QTest>
+#include <QTranslator>
 #include <functional>
 #include <optional>
 #include <tarnwidgets/framelessmessagebox_p.h>
@@ -238,6 +239,8 @@ private Q_SLOTS:
     void detailsButtonTextFollowsTheState();
     void detailsButtonFitsBothTexts();
     void detailsButtonFollowsLanguageAndFont();
+    void detailsButtonIsMeasuredInTheFontOfItsStyleSheet();
+    void detailsButtonIsMeasuredWithoutTheSignsOfMnemonics();
     void contextMenuOfTheDetailsPopsUp();
 
     // Icons
@@ -253,10 +256,12 @@ private Q_SLOTS:
     void hiddenBoxIsNotSized();
     void titleWidensUpToTheScreen_data();
     void titleWidensUpToTheScreen();
+    void titleIsMeasuredInTheFontOfInnerWindowTitles();
     void textBelowTheSoftLimitIsOneLine();
     void longTextWrapsAtTheSoftLimit();
     void longWordWidensUpToTheHardLimit_data();
     void longWordWidensUpToTheHardLimit();
+    void longWordWidensABoxWithAnInformativeText();
     void longInformativeWordWidensUpToTheHardLimit_data();
     void longInformativeWordWidensUpToTheHardLimit();
     void heightIsThatOfTheContentAndTheBars();
@@ -268,6 +273,7 @@ private Q_SLOTS:
     void togglingTheDetailsLeavesTheTextsAlone();
     void textIsPlacedAtOnceInABoxThatKeepsItsSize();
     void sizingLeavesNoLayoutRequestBehind();
+    void sizingLeavesTheLayoutRequestsOfOthers();
     void minimumSizeOfTheCallerIsOverwritten();
 
 private:
@@ -650,6 +656,47 @@ void tst_FramelessMessageBoxLayout::detailsButtonFollowsLanguageAndFont()
     QVERIFY(button.sizeHint().height() > before.height());
 }
 
+void tst_FramelessMessageBoxLayout::detailsButtonIsMeasuredInTheFontOfItsStyleSheet()
+{
+    // GIVEN a button with a style sheet that nothing has read yet
+    const QSize plain = DetailButton(nullptr).sizeHint();
+    DetailButton button(nullptr);
+    button.setStyleSheet(QStringLiteral("font-size: 40px;"));
+
+    // WHEN it is asked for its size THEN that is the size of the text that will be shown
+    const QSize hint = button.sizeHint();
+    QVERIFY(hint.height() > plain.height());
+    button.ensurePolished();
+    QCOMPARE(hint, button.sizeHint());
+}
+
+void tst_FramelessMessageBoxLayout::detailsButtonIsMeasuredWithoutTheSignsOfMnemonics()
+{
+    // GIVEN a language whose texts have a mnemonic each
+    class Mnemonics : public QTranslator
+    {
+    public:
+        bool isEmpty() const override
+        {
+            return false;
+        }
+        QString translate(const char *, const char *text, const char *, int) const override
+        {
+            return QLatin1Char('&') + QString::fromLatin1(text);
+        }
+    };
+    const QSize without = DetailButton(nullptr).sizeHint();
+    Mnemonics mnemonics;
+    QVERIFY(QCoreApplication::installTranslator(&mnemonics));
+    const DetailButton button(nullptr);
+    const QSize with = button.sizeHint();
+    QCoreApplication::removeTranslator(&mnemonics);
+
+    // THEN the button is no wider for the sign that marks it
+    QVERIFY(button.text().startsWith(QLatin1Char('&')));
+    QCOMPARE(with, without);
+}
+
 void tst_FramelessMessageBoxLayout::contextMenuOfTheDetailsPopsUp()
 {
     Box box;
@@ -806,6 +853,23 @@ void tst_FramelessMessageBoxLayout::titleWidensUpToTheScreen()
     QCOMPARE(box.width(), expected);
 }
 
+void tst_FramelessMessageBoxLayout::titleIsMeasuredInTheFontOfInnerWindowTitles()
+{
+    const QString title(30, QLatin1Char('W'));
+    const QFont before = QApplication::font("QMdiSubWindowTitleBar");
+    QFont large = before;
+    large.setPixelSize(QFontInfo(before).pixelSize() + 6);
+    const int expected = QFontMetrics(large).horizontalAdvance(title) + 50;
+    QVERIFY(expected > 400 && expected < ScreenWidth);
+    QVERIFY(expected > QFontMetrics(QApplication::font()).horizontalAdvance(title) + 50);
+
+    Box box(QMessageBox::NoIcon, title, QStringLiteral("x"));
+    QApplication::setFont(large, "QMdiSubWindowTitleBar");
+    show(box);
+    QApplication::setFont(before, "QMdiSubWindowTitleBar");
+    QCOMPARE(box.width(), expected);
+}
+
 void tst_FramelessMessageBoxLayout::textBelowTheSoftLimitIsOneLine()
 {
     Box box;
@@ -842,6 +906,17 @@ void tst_FramelessMessageBoxLayout::longWordWidensUpToTheHardLimit()
     const int needed = box.main()->minimumSizeHint().width() + 15 + 2 * 20 + 2;
     QVERIFY(needed > width);
     QCOMPARE(box.width(), qMin(needed, ScreenWidth));
+}
+
+void tst_FramelessMessageBoxLayout::longWordWidensABoxWithAnInformativeText()
+{
+    Box box;
+    box.setInformativeText(QStringLiteral("x"));
+    box.setText(wordOfWidth(box.main(), 500));
+    show(box);
+    const int needed = box.main()->minimumSizeHint().width() + 15 + 2 * 20 + 2;
+    QVERIFY(needed > 500 && needed < ScreenWidth);
+    QCOMPARE(box.width(), needed);
 }
 
 void tst_FramelessMessageBoxLayout::longInformativeWordWidensUpToTheHardLimit_data()
@@ -1008,6 +1083,28 @@ void tst_FramelessMessageBoxLayout::sizingLeavesNoLayoutRequestBehind()
     box.setText(QStringLiteral("many words ").repeated(100));
     QCoreApplication::sendPostedEvents(&box, QEvent::LayoutRequest);
     QCOMPARE(box.layoutRequests, before);
+}
+
+void tst_FramelessMessageBoxLayout::sizingLeavesTheLayoutRequestsOfOthers()
+{
+    class Other : public QWidget
+    {
+    public:
+        bool event(QEvent *event) override
+        {
+            layoutRequests += event->type() == QEvent::LayoutRequest ? 1 : 0;
+            return QWidget::event(event);
+        }
+
+        int layoutRequests = 0;
+    };
+    Other other;
+    Box box;
+    show(box);
+    QCoreApplication::postEvent(&other, new QEvent(QEvent::LayoutRequest));
+    box.setText(QStringLiteral("many words ").repeated(100));
+    QCoreApplication::sendPostedEvents(&other, QEvent::LayoutRequest);
+    QCOMPARE(other.layoutRequests, 1);
 }
 
 void tst_FramelessMessageBoxLayout::minimumSizeOfTheCallerIsOverwritten()
