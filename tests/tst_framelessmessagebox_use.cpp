@@ -8,6 +8,8 @@
 #include "support/testdialog.h"
 
 #include <QAccessible>
+#include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QDialogButtonBox>
 #include <QGuiApplication>
@@ -15,13 +17,18 @@
 #include <QPointer>
 #include <QProxyStyle>
 #include <QPushButton>
+#include <QScreen>
+#include <QSizeGrip>
 #include <QTest>
+#include <QTextCursor>
 #include <QTextEdit>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <tarnwidgets/framelessmessagebox.h>
 
 using namespace Tarn::Test;
+using Tarn::Widgets::FramelessDialog;
 using Tarn::Widgets::FramelessMessageBox;
 
 namespace {
@@ -76,6 +83,9 @@ public:
     bool centred = true;
 };
 
+/* What happens to a visible box. */
+using Change = std::function<void(FramelessMessageBox &)>;
+
 QList<QPair<QAccessible::Event, QObject *>> accessibleEvents;
 
 } // namespace
@@ -90,6 +100,7 @@ Q_DECLARE_METATYPE(QMessageBox::StandardButton)
 Q_DECLARE_METATYPE(QMessageBox::StandardButtons)
 Q_DECLARE_METATYPE(QMessageBox::ButtonRole)
 Q_DECLARE_METATYPE(QList<QMessageBox::ButtonRole>)
+Q_DECLARE_METATYPE(Change)
 
 class tst_FramelessMessageBoxUse : public QObject
 {
@@ -113,6 +124,7 @@ private Q_SLOTS:
     // Ending
     void escapeButtonIsDetected_data();
     void escapeButtonIsDetected();
+    void escapeButtonIsDetectedAtEveryShowAndOnlyThen();
     void explicitEscapeButtonWins();
     void clickEndsTheBoxBeforeItIsReported();
     void boxMayBeDeletedByWhoeverHearsOfTheClick_data();
@@ -134,10 +146,14 @@ private Q_SLOTS:
     void firstOfTwoEqualShortcutsIsClicked();
     void escapeGoesNoFurther();
     void copyAndSelectAllReachTheDetails();
+    void copyingNeedsTheSelectionThatIsThereNow();
     void otherKeysAreTheDialogs();
+    void eventsAreAnsweredAsByTheBaseClass();
 
     // Showing
     void showTellsAccessibilityAlert();
+    void boxIsPlacedOverItsParent();
+    void sizeGripFollowsTheCorner();
     void detailsButtonMovesToTheEndOfTheCustomOnes();
     void openConnectsByMember_data();
     void openConnectsByMember();
@@ -148,9 +164,13 @@ private Q_SLOTS:
     void windowModalityReplacesTheFlags();
 
     // Changes
+    void everyChangeSizesAVisibleBoxAtOnce_data();
+    void everyChangeSizesAVisibleBoxAtOnce();
     void languageChangeReachesDetailsAndOwnTexts();
     void languageChangeLeavesTheTextsOfASetToQt();
     void newDetailsAreClosed();
+    void languageChangeReachesTheSubclass();
+    void newBoxCentresItsButtonsAsItsStyleDoes();
     void styleChangeReachesIconFlagsAndCentring();
 
 private:
@@ -209,6 +229,23 @@ void tst_FramelessMessageBoxUse::escapeButtonIsDetected()
     QCOMPARE(outcome.code(), result);
     QCOMPARE(box.isVisible(), result == Untouched);
     QVERIFY(!box.escapeButton()); // a detected one is not a set one
+}
+
+void tst_FramelessMessageBoxUse::escapeButtonIsDetectedAtEveryShowAndOnlyThen()
+{
+    // GIVEN a box that gets another escape button while it is on screen
+    FramelessMessageBox box;
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    show(box);
+    box.addButton(QMessageBox::Cancel);
+
+    // WHEN Escape is pressed THEN the one found at the show counts, and the new one from the next show on
+    const Outcome outcome(box);
+    QTest::keyClick(&box, Qt::Key_Escape);
+    QCOMPARE(outcome.code(), int(QMessageBox::No));
+    show(box);
+    QTest::keyClick(&box, Qt::Key_Escape);
+    QCOMPARE(outcome.code(), int(QMessageBox::Cancel));
 }
 
 void tst_FramelessMessageBoxUse::explicitEscapeButtonWins()
@@ -509,6 +546,27 @@ void tst_FramelessMessageBoxUse::copyAndSelectAllReachTheDetails()
     QVERIFY(box.isVisible());
 }
 
+void tst_FramelessMessageBoxUse::copyingNeedsTheSelectionThatIsThereNow()
+{
+    // GIVEN open details whose selection has gone again
+    FramelessMessageBox box;
+    box.addButton(QMessageBox::Ok);
+    box.setDetailedText(QStringLiteral("details to copy"));
+    show(box);
+    detailsButton(box)->click();
+    auto *editor = box.findChild<QTextEdit *>();
+    editor->selectAll();
+    QVERIFY(editor->textCursor().hasSelection());
+    editor->setTextCursor(QTextCursor(editor->document()));
+    QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+
+    // WHEN the key for copying comes THEN it goes on to the dialog
+    QKeyEvent copy(QEvent::KeyPress, Qt::Key_C, Qt::ControlModifier);
+    QCoreApplication::sendEvent(&box, &copy);
+    QVERIFY(!copy.isAccepted());
+    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("before"));
+}
+
 void tst_FramelessMessageBoxUse::otherKeysAreTheDialogs()
 {
     FramelessMessageBox box;
@@ -524,6 +582,19 @@ void tst_FramelessMessageBoxUse::otherKeysAreTheDialogs()
     QCOMPARE(outcome.code(), int(QMessageBox::Cancel));
 }
 
+void tst_FramelessMessageBoxUse::eventsAreAnsweredAsByTheBaseClass()
+{
+    FramelessMessageBox box;
+    FramelessDialog dialog(nullptr);
+    QList<bool> answers;
+    for (const QEvent::Type type : {QEvent::LayoutRequest, QEvent::LanguageChange, QEvent::User}) {
+        QEvent event(type);
+        answers.append(QCoreApplication::sendEvent(&box, &event));
+        QCOMPARE(answers.last(), QCoreApplication::sendEvent(&dialog, &event));
+    }
+    QVERIFY(answers.contains(true) && answers.contains(false)); // otherwise any would do
+}
+
 // Showing
 
 void tst_FramelessMessageBoxUse::showTellsAccessibilityAlert()
@@ -532,6 +603,34 @@ void tst_FramelessMessageBoxUse::showTellsAccessibilityAlert()
     accessibleEvents.clear();
     box.show();
     QCOMPARE(accessibleEvents.count({QAccessible::Alert, &box}), 1);
+}
+
+void tst_FramelessMessageBoxUse::boxIsPlacedOverItsParent()
+{
+    // GIVEN a parent away from the middle of the screen
+    QWidget parent;
+    parent.setGeometry(350, 230, 300, 260);
+    show(parent);
+    FramelessMessageBox box(&parent);
+    box.resize(400, 220);
+
+    // WHEN the box is told that it is shown THEN it has moved, without the help of the platform
+    QShowEvent event;
+    QCoreApplication::sendEvent(&box, &event);
+    const QPoint apart = box.geometry().center() - parent.geometry().center();
+    QVERIFY2(apart.manhattanLength() < 30, QTest::toString(box.geometry()));
+}
+
+void tst_FramelessMessageBoxUse::sizeGripFollowsTheCorner()
+{
+    FramelessMessageBox box;
+    box.setSizeGripEnabled(true);
+    show(box);
+    const auto *grip = box.findChild<QSizeGrip *>();
+    QCOMPARE(grip->geometry().bottomRight(), box.rect().bottomRight());
+    box.setText(QStringLiteral("many words ").repeated(100));
+    QVERIFY(box.height() > 220);
+    QCOMPARE(grip->geometry().bottomRight(), box.rect().bottomRight());
 }
 
 void tst_FramelessMessageBoxUse::detailsButtonMovesToTheEndOfTheCustomOnes()
@@ -665,6 +764,53 @@ void tst_FramelessMessageBoxUse::windowModalityReplacesTheFlags()
 
 // Changes
 
+void tst_FramelessMessageBoxUse::everyChangeSizesAVisibleBoxAtOnce_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::newRow("text") << Change([](FramelessMessageBox &box) { box.setText(QStringLiteral("x")); });
+    QTest::newRow("text format") << Change(
+        [](FramelessMessageBox &box) { box.setTextFormat(Qt::PlainText); });
+    QTest::newRow("icon") << Change([](FramelessMessageBox &box) { box.setIcon(QMessageBox::Warning); });
+    QTest::newRow("no picture") << Change([](FramelessMessageBox &box) { box.setIconPixmap(QPixmap()); });
+    QTest::newRow("check box") << Change([](FramelessMessageBox &box) { box.setCheckBox(new QCheckBox); });
+    QTest::newRow("informative text")
+        << Change([](FramelessMessageBox &box) { box.setInformativeText(QStringLiteral("x")); });
+    QTest::newRow("detailed text") << Change(
+        [](FramelessMessageBox &box) { box.setDetailedText(QStringLiteral("x")); });
+    QTest::newRow("button added") << Change(
+        [](FramelessMessageBox &box) { box.addButton(QStringLiteral("x"), QMessageBox::ActionRole); });
+    QTest::newRow("button removed") << Change([](FramelessMessageBox &box) {
+        QAbstractButton *removed = box.buttons().first();
+        box.removeButton(removed);
+        removed->deleteLater();
+    });
+    QTest::newRow("set of buttons") << Change(
+        [](FramelessMessageBox &box) { box.setStandardButtons(QMessageBox::Save); });
+    QTest::newRow("show event") << Change([](FramelessMessageBox &box) {
+        QShowEvent event;
+        QCoreApplication::sendEvent(&box, &event);
+    });
+}
+
+void tst_FramelessMessageBoxUse::everyChangeSizesAVisibleBoxAtOnce()
+{
+    QFETCH(const Change, change);
+
+    // GIVEN a box whose title has outgrown it, which alone does not size it
+    FramelessMessageBox box(QMessageBox::NoIcon, QStringLiteral("t"), QStringLiteral("x"), QMessageBox::Ok);
+    show(box);
+    const QString title(35, QLatin1Char('W'));
+    box.setWindowTitle(title);
+    QCOMPARE(box.width(), 400);
+
+    // WHEN something else changes THEN the box has room for the title before anything is laid out
+    change(box);
+    const QFontMetrics metrics(QApplication::font("QMdiSubWindowTitleBar"));
+    const int expected = metrics.horizontalAdvance(title) + 50;
+    QVERIFY(expected > 400 && expected < QGuiApplication::primaryScreen()->availableGeometry().width());
+    QCOMPARE(box.width(), expected);
+}
+
 void tst_FramelessMessageBoxUse::languageChangeReachesDetailsAndOwnTexts()
 {
     FramelessMessageBox box;
@@ -706,6 +852,37 @@ void tst_FramelessMessageBoxUse::newDetailsAreClosed()
     delete box.findChild<QTextEdit *>()->parentWidget();
     box.setDetailedText(QStringLiteral("new ones"));
     QCOMPARE(detailsButton(box)->text(), QStringLiteral("Show Details..."));
+}
+
+void tst_FramelessMessageBoxUse::languageChangeReachesTheSubclass()
+{
+    class Box : public FramelessMessageBox
+    {
+    public:
+        void reTranslateUI() override
+        {
+            ++retranslations;
+        }
+
+        int retranslations = 0;
+    };
+    Box box;
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(&box, &change);
+    QCOMPARE(box.retranslations, 1);
+}
+
+void tst_FramelessMessageBoxUse::newBoxCentresItsButtonsAsItsStyleDoes()
+{
+    const QString former = QApplication::style()->objectName();
+    QApplication::setStyle(new OddStyle);
+    {
+        const FramelessMessageBox box;
+        QVERIFY(buttonBoxOf(box)->centerButtons());
+    }
+    QApplication::setStyle(former);
+    const FramelessMessageBox box;
+    QVERIFY(!buttonBoxOf(box)->centerButtons());
 }
 
 void tst_FramelessMessageBoxUse::styleChangeReachesIconFlagsAndCentring()
