@@ -99,6 +99,7 @@ private Q_SLOTS:
     void propertySelectsInTheStyleSheet();
     void closeButtonCanBeLeftOut_data();
     void closeButtonCanBeLeftOut();
+    void shortCallPlacesTheBoxAsAnyOther();
     void longCallPlacesTheBoxByTheParentsSizeAlone();
     void deletedParentReturnsWhatClosingReturns_data();
     void deletedParentReturnsWhatClosingReturns();
@@ -396,6 +397,28 @@ void tst_FramelessMessageBoxOneCall::closeButtonCanBeLeftOut()
         boxOf(dialog)->button(QMessageBox::Ok)->click();
     });
     FramelessMessageBox::critical(nullptr, title(), text(), property, true, buttons, QMessageBox::Ok, wanted);
+    QVERIFY(driver.ran());
+}
+
+void tst_FramelessMessageBoxOneCall::shortCallPlacesTheBoxAsAnyOther()
+{
+    // GIVEN where a box that nobody moves is shown
+    QWidget parent;
+    parent.setGeometry(350, 230, 300, 260);
+    parent.show();
+    QPoint place;
+    {
+        FramelessMessageBox plain(QMessageBox::Warning, title(), text(), QMessageBox::Ok, &parent);
+        plain.show();
+        place = plain.pos();
+    }
+
+    // WHEN a box is shown in one call THEN it is there too
+    ModalDriver driver([&](QWidget *dialog) {
+        QCOMPARE(dialog->pos(), place);
+        dialog->close();
+    });
+    FramelessMessageBox::warning(&parent, title(), text());
     QVERIFY(driver.ran());
 }
 
