@@ -165,10 +165,10 @@ bool LimitGuard::contains(const QString &path) const
     if (path.isEmpty() || path.contains(QChar::Null) || !path.isValidUtf16())
         return false;
 
-    const QLatin1Char slash('/');
-    // What does not begin with a slash may be more than a relative path: Qt has search paths and resources,
-    // too.
-    const QString absolute = path.startsWith(slash) ? path : QFileInfo(path).absoluteFilePath();
+    // QFileInfo knows search paths and resources, too.
+    const QFileInfo info(path);
+    const QString absolute =
+        info.isRelative() ? QDir::currentPath() + QLatin1Char('/') + info.filePath() : info.filePath();
     // Some programs clean a path before they open it, some do not. Behind a link ".." differs.
     const QString opened = resolved(absolute);
     const QString cleaned = resolved(QDir::cleanPath(absolute));

@@ -21,6 +21,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -579,6 +580,11 @@ void tst_LimitedFileDialogStrict::followsLinks()
 
     QCOMPARE(dialog.pathFits(tree.path() + QLatin1Char('/') + name), fits);
     QVERIFY(!dialog.pathFits(QString()));
+
+    // and so it is from the working directory
+    const auto restore = qScopeGuard([before = QDir::currentPath()] { QDir::setCurrent(before); });
+    QVERIFY(QDir::setCurrent(tree.path()));
+    QCOMPARE(dialog.pathFits(name), fits);
 }
 
 void tst_LimitedFileDialogStrict::takesTheRootHoweverItIsSpelt_data()

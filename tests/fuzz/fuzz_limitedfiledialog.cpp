@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <climits>
@@ -160,18 +161,17 @@ void checkStrict(const Tree &tree, const QString &path)
 {
     static LimitedFileDialog *const dialog = makeDialog(tree, true);
     const bool isInside = dialog->pathFits(path);
+    const QString absolute = path.startsWith(QLatin1Char('/')) ? path : tree.at("r/") + path;
     if (path.contains(QChar::Null) || !path.isValidUtf16() || path.isEmpty()) {
         require(!isInside, "what is no path is not permitted");
-    } else if (path.startsWith(QLatin1Char('/'))) {
-        if (isInside) {
-            require(isPermitted(tree, path), "what is judged inside is inside");
-            require(isPermitted(tree, QDir::cleanPath(path)), "and also once its dots are taken out");
-        } else if (QFileInfo::exists(path)) {
-            require(!isPermitted(tree, path) || !isPermitted(tree, QDir::cleanPath(path)),
-                    "what is there and inside is judged so");
-        }
-    } else {
-        require(!isInside, "what begins elsewhere is not permitted");
+    } else if (path.startsWith(QLatin1Char(':'))) {
+        require(!isInside, "a resource is not permitted");
+    } else if (isInside) {
+        require(isPermitted(tree, absolute), "what is judged inside is inside");
+        require(isPermitted(tree, QDir::cleanPath(absolute)), "and also once its dots are taken out");
+    } else if (QFileInfo::exists(absolute)) {
+        require(!isPermitted(tree, absolute) || !isPermitted(tree, QDir::cleanPath(absolute)),
+                "what is there and inside is judged so");
     }
     if (isAcceptable(dialog, path))
         require(isPermitted(tree, named(tree, path)), "what is typed and may be accepted is inside");
@@ -206,6 +206,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     static constexpr const char *Bases[] = {"r/", "", "o/", "s"};
     const int base = input.below(5);
     const QString path = (base < 4 ? tree.at(Bases[base]) : QString()) + input.text();
+    const auto restore = qScopeGuard([before = QDir::currentPath()] { QDir::setCurrent(before); });
+    require(QDir::setCurrent(tree.at("r")), "there is a working directory to which paths are relative");
     checkStrict(tree, path);
     checkTexts(tree, path);
     return 0;
