@@ -100,11 +100,6 @@ bool MessageLabel::isMeasuredHere() const
         && minimumSize().isNull();
 }
 
-bool MessageLabel::isWrapped() const
-{
-    return wordWrap() && !m_measuredUnwrapped;
-}
-
 void MessageLabel::setMeasuredUnwrapped(bool unwrapped)
 {
     if (isMeasuredHere()) {
@@ -144,6 +139,7 @@ QTextDocument *MessageLabel::document() const
 void MessageLabel::endMeasuring()
 {
     m_document.reset();
+    m_measuredUnwrapped = false;
 }
 
 QSize MessageLabel::measure(qreal width) const
@@ -155,7 +151,7 @@ QSize MessageLabel::measure(qreal width) const
 const MessageLabel::Sizes &MessageLabel::sizes() const
 {
     followText();
-    if (!isWrapped())
+    if (!wordWrap() || m_measuredUnwrapped)
         return m_unwrapped;
     if (!m_wrapped.hint.isValid()) {
         document()->adjustSize();
@@ -182,7 +178,7 @@ QSize MessageLabel::minimumSizeHint() const
 
 int MessageLabel::heightForWidth(int width) const
 {
-    if (!isMeasuredHere() || !isWrapped())
+    if (!isMeasuredHere() || !wordWrap())
         return QLabel::heightForWidth(width);
     followText();
     const QMargins margins = contentsMargins();
@@ -442,7 +438,11 @@ int FramelessMessageBoxPrivate::widthForTexts(int hardLimit, int softLimit)
         label->setWordWrap(true);
     label->setMeasuredUnwrapped(true);
     int width = layoutMinimumWidth();
-    label->setMeasuredUnwrapped(false);
+    // A text that fits need not be measured wrapped, too, where it has a row of its own, which takes its
+    // height for the width. Without an informative text it has two rows, which the height of its hint has a
+    // say in.
+    if (width > softLimit || !informativeLabel || !label->isMeasuredHere())
+        label->setMeasuredUnwrapped(false);
     if (width > softLimit)
         width = qMin(qMax(softLimit, layoutMinimumWidth()), hardLimit);
     if (informativeLabel) {

@@ -38,13 +38,19 @@ public:
     QSize minimumSizeHint() const override;
     int heightForWidth(int width) const override;
 
+    /*! Whether the text is one that is measured here, and not by QLabel. */
+    bool isMeasuredHere() const;
+
     /*!
      * Has layouts ask for the sizes of the text unwrapped, or wrapped again. What is shown stays wrapped, and
      * need not be laid out anew.
      */
     void setMeasuredUnwrapped(bool unwrapped);
 
-    /*! Frees what the text is measured with; the sizes that are known stay known. */
+    /*!
+     * Frees what the text is measured with, which is wrapped again; the sizes that are known stay known, and
+     * layouts are not told.
+     */
     void endMeasuring();
 
 private:
@@ -56,8 +62,6 @@ private:
     };
 
     bool isIgnored() const; // layouts ask, and have no use for the answer
-    bool isMeasuredHere() const;
-    bool isWrapped() const;
     void followText() const;
     QTextDocument *document() const;
     QSize measure(qreal width) const;
