@@ -174,7 +174,8 @@ void IPLineEditPrivate::settle(QLineEdit *field)
 {
     if (field->selectionStart() >= 0)
         return;
-    field->deselect();
+    if (field->hasSelectedText() || field->text().isEmpty()) // costly for each key
+        field->deselect();
     if (field->cursorPosition() > field->text().size())
         field->end(false);
 }
