@@ -33,6 +33,17 @@ bool isWithin(const QString &path, const QString &root)
     return path.startsWith(root.endsWith(QLatin1Char('/')) ? root : root + QLatin1Char('/'));
 }
 
+// A path seen from the working directory. Empty if that is gone, for which Qt takes the file system's root,
+// while "../" still leads up from where it was.
+QString fromWorkingDirectory(const QString &path)
+{
+    const QFileInfo info(path); // it knows search paths and resources, too
+    if (!info.isRelative())
+        return info.filePath();
+    const QString folder = QDir::currentPath();
+    return folder.isEmpty() ? QString() : folder + QLatin1Char('/') + info.filePath();
+}
+
 // Where the system goes for an absolute path: its links followed, names that do not exist yet put behind.
 // Empty if that cannot be told, as behind a dangling link.
 QString resolved(QString path)
@@ -149,7 +160,7 @@ void LimitGuard::setRoots(const QStringList &roots)
 {
     m_roots.clear();
     for (const QString &root : roots) {
-        m_roots.append({QFileInfo(root).absoluteFilePath(), QString()});
+        m_roots.append({QDir::cleanPath(fromWorkingDirectory(root)), QString()});
         standing(&m_roots.last());
     }
     clearNotice();
@@ -165,10 +176,7 @@ bool LimitGuard::contains(const QString &path) const
     if (path.isEmpty() || path.contains(QChar::Null) || !path.isValidUtf16())
         return false;
 
-    // QFileInfo knows search paths and resources, too.
-    const QFileInfo info(path);
-    const QString absolute =
-        info.isRelative() ? QDir::currentPath() + QLatin1Char('/') + info.filePath() : info.filePath();
+    const QString absolute = fromWorkingDirectory(path);
     // Some programs clean a path before they open it, some do not. Behind a link ".." differs.
     const QString opened = resolved(absolute);
     const QString cleaned = resolved(QDir::cleanPath(absolute));

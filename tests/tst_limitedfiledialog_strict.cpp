@@ -93,6 +93,7 @@ private Q_SLOTS:
     void deletesNothingOutsideByTheMenu();
     void followsLinks_data();
     void followsLinks();
+    void relativePathsLeadNowhereWithoutAWorkingDirectory();
     void takesTheRootHoweverItIsSpelt_data();
     void takesTheRootHoweverItIsSpelt();
     void admitsWhatIsInside_data();
@@ -585,6 +586,31 @@ void tst_LimitedFileDialogStrict::followsLinks()
     const auto restore = qScopeGuard([before = QDir::currentPath()] { QDir::setCurrent(before); });
     QVERIFY(QDir::setCurrent(tree.path()));
     QCOMPARE(dialog.pathFits(name), fits);
+}
+
+void tst_LimitedFileDialogStrict::relativePathsLeadNowhereWithoutAWorkingDirectory()
+{
+    // GIVEN a dialog, and a working directory that was deleted
+    const LimitTree tree;
+    LimitedFileDialog dialog;
+    dialog.setStrict(true);
+    dialog.setLimitedPath(tree.at("root"));
+    const auto restore = qScopeGuard([before = QDir::currentPath()] { QDir::setCurrent(before); });
+    const QString gone = tree.path() + QStringLiteral("/gone");
+    QVERIFY(QDir().mkdir(gone));
+    QVERIFY(QDir::setCurrent(gone));
+    QVERIFY(QDir(gone).removeRecursively());
+    QVERIFY(QDir::currentPath().isEmpty());
+
+    // THEN a relative path is not taken for one from the file system's root
+    const QString fromRoot = tree.at("root/file.txt").mid(1);
+    QVERIFY(dialog.pathFits(QLatin1Char('/') + fromRoot));
+    QVERIFY(!dialog.pathFits(fromRoot));
+    QVERIFY(!dialog.pathFits(QStringLiteral("../") + fromRoot));
+
+    // and neither is a permitted folder
+    dialog.setLimitedPath(tree.at("root").mid(1));
+    QVERIFY(!dialog.pathFits(tree.at("root/file.txt")));
 }
 
 void tst_LimitedFileDialogStrict::takesTheRootHoweverItIsSpelt_data()
