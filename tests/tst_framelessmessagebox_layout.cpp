@@ -855,10 +855,10 @@ void tst_FramelessMessageBoxLayout::titleWidensUpToTheScreen()
 
 void tst_FramelessMessageBoxLayout::titleIsMeasuredInTheFontOfInnerWindowTitles()
 {
-    const QString title(30, QLatin1Char('W'));
     const QFont before = QApplication::font("QMdiSubWindowTitleBar");
     QFont large = before;
     large.setPixelSize(QFontInfo(before).pixelSize() + 6);
+    const QString title(500 / QFontMetrics(large).horizontalAdvance(QLatin1Char('W')), QLatin1Char('W'));
     const int expected = QFontMetrics(large).horizontalAdvance(title) + 50;
     QVERIFY(expected > 400 && expected < ScreenWidth);
     QVERIFY(expected > QFontMetrics(QApplication::font()).horizontalAdvance(title) + 50);

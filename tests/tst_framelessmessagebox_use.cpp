@@ -799,13 +799,13 @@ void tst_FramelessMessageBoxUse::everyChangeSizesAVisibleBoxAtOnce()
     // GIVEN a box whose title has outgrown it, which alone does not size it
     FramelessMessageBox box(QMessageBox::NoIcon, QStringLiteral("t"), QStringLiteral("x"), QMessageBox::Ok);
     show(box);
-    const QString title(35, QLatin1Char('W'));
+    const QFontMetrics metrics(QApplication::font("QMdiSubWindowTitleBar"));
+    const QString title(500 / metrics.horizontalAdvance(QLatin1Char('W')), QLatin1Char('W'));
     box.setWindowTitle(title);
     QCOMPARE(box.width(), 400);
 
     // WHEN something else changes THEN the box has room for the title before anything is laid out
     change(box);
-    const QFontMetrics metrics(QApplication::font("QMdiSubWindowTitleBar"));
     const int expected = metrics.horizontalAdvance(title) + 50;
     QVERIFY(expected > 400 && expected < QGuiApplication::primaryScreen()->availableGeometry().width());
     QCOMPARE(box.width(), expected);
