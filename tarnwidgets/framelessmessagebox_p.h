@@ -48,8 +48,8 @@ public:
     void setMeasuredUnwrapped(bool unwrapped);
 
     /*!
-     * Frees what the text is measured with, which is wrapped again; the sizes that are known stay known, and
-     * layouts are not told.
+     * Frees what the text is measured with. It is measured wrapped again, but layouts are not told, and the
+     * sizes that are known stay known.
      */
     void endMeasuring();
 
