@@ -205,7 +205,7 @@ QVector<Call> framelessSetters()
                                          FramelessFileDialog::workingDirectory(drawUrl(source));
                                          FramelessFileDialog::initialSelection(drawUrl(source));
                                      }),
-        // Not while it has a menu open. Its header says what the others do then.
+        // Not while a menu is open. The header says what the functions do without it.
         special<FramelessFileDialog>("delete the inner dialog",
                                      [](FramelessFileDialog *dialog, Source source) {
                                          auto *inner = dialog->findChild<QFileDialog *>();
