@@ -598,10 +598,6 @@ bool isLeftAlone(const QObject *object, const char *name)
     // The gallery's content is its own, and so is what becomes of it.
     if (QByteArray(name).startsWith("setCentralWidget") && object->inherits("Gallery::MainWindow"))
         return true;
-    // A header with a scroll bar has no height left, of which QHeaderView makes a picture of a pressed
-    // section.
-    if (object->inherits("QHeaderView") && QByteArray(name).endsWith("ScrollBarPolicy"))
-        return true;
     for (const QByteArray &candidate : anywhere) {
         if (candidate == name)
             return true;
